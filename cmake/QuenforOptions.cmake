@@ -1,0 +1,24 @@
+# One INTERFACE target carries the language level, the warnings and Qt's safety defines.
+# Every target of the project links it, so all code is held to the same rules.
+add_library(quenfor_options INTERFACE)
+target_compile_features(quenfor_options INTERFACE cxx_std_20)
+target_compile_options(quenfor_options INTERFACE -Wall -Wextra -Wpedantic)
+if(QUENFOR_WERROR)
+    target_compile_options(quenfor_options INTERFACE -Werror)
+endif()
+target_compile_definitions(quenfor_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_CONTEXTLESS_CONNECT
+    QT_NO_FOREACH
+    QUENFOR_VERSION="${PROJECT_VERSION}")
+target_include_directories(quenfor_options INTERFACE "${PROJECT_SOURCE_DIR}/src")
+
+# Adds a logic library: Qt Core only, no widgets.
+function(quenfor_add_logic_library name)
+    add_library(${name} STATIC ${ARGN})
+    target_link_libraries(${name} PUBLIC quenfor_options Qt6::Core)
+endfunction()

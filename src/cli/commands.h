@@ -1,0 +1,19 @@
+#pragma once
+
+#include "cli/cliargs.h"
+#include "cli/clirunner.h"
+
+namespace quenfor::cli {
+
+// Document commands: read FILE, run one tool, write the document as the window saves it.
+bool isDocumentCommand(const QString& command);
+int runDocumentCommand(const CliArgs& args, const CliStreams& io);
+
+// Query commands: print UTF-8 lines.
+bool isQueryCommand(const QString& command);
+int runQueryCommand(const CliArgs& args, const CliStreams& io);
+
+// The code page for files that are not UTF-8: --codepage, else the stored setting.
+QString effectiveCodepage(const CliArgs& args);
+
+} // namespace quenfor::cli

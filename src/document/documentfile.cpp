@@ -1,0 +1,389 @@
+#include "document/documentfile.h"
+
+#include "document/linesplit.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor {
+
+namespace {
+
+constexpr qint64 kChunkSize = 1 << 20;
+constexpr qsizetype kMarkSize = 3;
+
+bool startsWithMark(QByteArrayView bytes) {
+    return bytes.startsWith(QByteArrayView(kUtf8Mark, kMarkSize));
+}
+
+bool isUtf8Codepage(const QString& name) {
+    QString n = name.toLower();
+    n.remove(u'-');
+    n.remove(u'_');
+    return n == u"utf8"_s;
+}
+
+TextEncoding chooseEncoding(bool mark, bool validUtf8, bool nonAscii, const EncodingChoice& choice) {
+    if (choice.force)
+        return isUtf8Codepage(choice.codepage) ? TextEncoding::utf8(mark) : TextEncoding::codepageNamed(choice.codepage);
+    if (mark || (validUtf8 && nonAscii))
+        return TextEncoding::utf8(mark);
+    return TextEncoding::codepageNamed(choice.codepage);
+}
+
+// Checks UTF-8 across pieces of a stream: a sequence cut by the end of a piece is carried over.
+class StreamingUtf8Check {
+public:
+    void feed(const char* data, qsizetype size) {
+        if (!m_valid)
+            return;
+        if (!m_carry.isEmpty()) {
+            QByteArray joined = m_carry;
+            joined.append(data, size);
+            m_carry.clear();
+            check(joined.constData(), joined.size());
+        } else {
+            check(data, size);
+        }
+    }
+    bool finish() {
+        if (!m_carry.isEmpty())
+            m_valid = m_valid && isValidUtf8(m_carry.constData(), m_carry.size());
+        return m_valid;
+    }
+    bool nonAscii() const { return m_nonAscii; }
+
+private:
+    void check(const char* data, qsizetype size) {
+        qsizetype cut = size;
+        for (qsizetype back = 1; back <= 3 && back <= size; ++back) {
+            const auto b = static_cast<unsigned char>(data[size - back]);
+            if (b < 0x80)
+                break;
+            if (b >= 0xC0) {
+                const qsizetype need = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : 2;
+                if (need > back)
+                    cut = size - back;
+                break;
+            }
+        }
+        m_nonAscii = m_nonAscii || hasNonAscii(data, size);
+        m_valid = isValidUtf8(data, cut);
+        m_carry = QByteArray(data + cut, size - cut);
+    }
+
+    bool m_valid = true;
+    bool m_nonAscii = false;
+    QByteArray m_carry;
+};
+
+// Turns pieces of bytes into decoded lines by the reader's rule. A CR at the end of a piece
+// ends the line at once; an LF at the start of the next piece then belongs to that CR.
+class LineAssembler {
+public:
+    LineAssembler(const LineCodec& codec, QStringList& lines) : m_codec(codec), m_lines(lines) {}
+
+    void feed(const char* data, qsizetype size) {
+        qsizetype i = 0;
+        if (m_lfMayFollow && size > 0) {
+            m_lfMayFollow = false;
+            if (data[0] == '\n')
+                i = 1;
+        }
+        qsizetype start = i;
+        while (i < size) {
+            const void* cr = std::memchr(data + i, '\r', size_t(size - i));
+            if (!cr)
+                break;
+            const qsizetype at = static_cast<const char*>(cr) - data;
+            emitLine(data + start, at - start);
+            i = at + 1;
+            if (i < size) {
+                if (data[i] == '\n')
+                    ++i;
+            } else {
+                m_lfMayFollow = true;
+            }
+            start = i;
+        }
+        if (start < size)
+            m_pending.append(data + start, size - start);
+    }
+
+    void finish() {
+        if (!m_pending.isEmpty()) {
+            m_lines.append(m_codec.decode(m_pending.constData(), m_pending.size()));
+            m_pending.clear();
+        }
+    }
+
+private:
+    void emitLine(const char* data, qsizetype size) {
+        if (m_pending.isEmpty()) {
+            m_lines.append(m_codec.decode(data, size));
+            return;
+        }
+        m_pending.append(data, size);
+        m_lines.append(m_codec.decode(m_pending.constData(), m_pending.size()));
+        m_pending.clear();
+    }
+
+    const LineCodec& m_codec;
+    QStringList& m_lines;
+    QByteArray m_pending;
+    bool m_lfMayFollow = false;
+};
+
+QString nativePath(const QString& path) {
+    return QDir::toNativeSeparators(path);
+}
+
+QString readErrorText(const QString& path, const QFile& file, int err) {
+    const QFileInfo info(path);
+    const QString name = nativePath(path);
+    if (!info.exists())
+        return u"Die Datei %1 existiert nicht."_s.arg(name);
+    if (info.isDir())
+        return u"%1 ist ein Verzeichnis und keine Datei."_s.arg(name);
+    if (err == EACCES || err == EPERM)
+        return u"Die Datei %1 kann nicht gelesen werden: Es fehlen die Leserechte."_s.arg(name);
+    return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, file.errorString());
+}
+
+ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip) {
+    ReadResult result;
+    QString error;
+    const auto codec = LineCodec::create(encoding, &error);
+    if (!codec) {
+        result.error = error;
+        return result;
+    }
+    result.encoding = encoding;
+    LineAssembler assembler(*codec, result.lines);
+    QByteArray chunk(kChunkSize, Qt::Uninitialized);
+    if (skip > 0)
+        device.read(chunk.data(), skip);
+    for (;;) {
+        const qint64 n = device.read(chunk.data(), kChunkSize);
+        if (n < 0) {
+            result.error = u"Lesefehler: %1"_s.arg(device.errorString());
+            result.lines.clear();
+            return result;
+        }
+        if (n == 0)
+            break;
+        assembler.feed(chunk.constData(), n);
+    }
+    assembler.finish();
+    result.ok = true;
+    return result;
+}
+
+QString saveErrorText(const QString& path, const QString& reason) {
+    return u"Die Datei %1 konnte nicht gespeichert werden: %2 Die bisherige Datei bleibt unverändert."_s.arg(
+        nativePath(path), reason);
+}
+
+QString reasonForErrno(int err, const QString& fallback) {
+    switch (err) {
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return u"Es fehlen die Schreibrechte."_s;
+    case ENOSPC:
+        return u"Der Datenträger ist voll."_s;
+    case EDQUOT:
+        return u"Das Speicherkontingent ist erschöpft."_s;
+    case EFBIG:
+        return u"Die zulässige Dateigröße ist überschritten."_s;
+    case EISDIR:
+        return u"An ihrer Stelle steht ein Verzeichnis."_s;
+    case ENOENT:
+    case ENOTDIR:
+        return u"Das Verzeichnis existiert nicht."_s;
+    default:
+        return fallback + u'.';
+    }
+}
+
+// Encodes the lines piece by piece, so a large document never exists twice in memory.
+template <typename Write>
+bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& unrepresentable, Write&& write) {
+    QByteArray buffer;
+    buffer.reserve(kChunkSize + 4096);
+    for (const QString& line : lines) {
+        codec.encodeAppend(line, buffer, unrepresentable);
+        buffer.append("\r\n", 2);
+        if (buffer.size() >= kChunkSize) {
+            if (!write(buffer))
+                return false;
+            buffer.resize(0);
+        }
+    }
+    return buffer.isEmpty() || write(buffer);
+}
+
+} // namespace
+
+ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
+    QFile file(path);
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+        const int err = errno;
+        ReadResult result;
+        result.error = readErrorText(path, file, err);
+        return result;
+    }
+
+    // First pass: which encoding. The second pass decodes; the file is in the cache by then.
+    StreamingUtf8Check check;
+    QByteArray chunk(kChunkSize, Qt::Uninitialized);
+    bool mark = false;
+    bool first = true;
+    for (;;) {
+        const qint64 n = file.read(chunk.data(), kChunkSize);
+        if (n < 0) {
+            ReadResult result;
+            result.error = u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(nativePath(path), file.errorString());
+            return result;
+        }
+        if (n == 0)
+            break;
+        if (first)
+            mark = startsWithMark(QByteArrayView(chunk.constData(), n));
+        first = false;
+        check.feed(chunk.constData(), n);
+    }
+    const bool valid = check.finish();
+    const TextEncoding encoding = chooseEncoding(mark, valid, check.nonAscii(), choice);
+    chunk = QByteArray();
+
+    if (!file.seek(0)) {
+        ReadResult result;
+        result.error = u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(nativePath(path), file.errorString());
+        return result;
+    }
+    const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
+    return readStream(file, encoding, skipMark ? kMarkSize : 0);
+}
+
+ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice) {
+    const bool mark = startsWithMark(bytes);
+    const bool valid = isValidUtf8(bytes.data(), bytes.size());
+    const TextEncoding encoding = chooseEncoding(mark, valid, hasNonAscii(bytes.data(), bytes.size()), choice);
+    const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
+    const QByteArrayView body = skipMark ? bytes.sliced(kMarkSize) : bytes;
+
+    ReadResult result;
+    QString error;
+    const auto codec = LineCodec::create(encoding, &error);
+    if (!codec) {
+        result.error = error;
+        return result;
+    }
+    result.encoding = encoding;
+    forEachLine(body.data(), body.size(), [&](qsizetype start, qsizetype length) {
+        result.lines.append(codec->decode(body.data() + start, length));
+    });
+    result.ok = true;
+    return result;
+}
+
+QString decodeText(QByteArrayView bytes, const EncodingChoice& choice, TextEncoding* used) {
+    const bool mark = startsWithMark(bytes);
+    const TextEncoding encoding =
+        chooseEncoding(mark, isValidUtf8(bytes.data(), bytes.size()), hasNonAscii(bytes.data(), bytes.size()), choice);
+    if (used)
+        *used = encoding;
+    const auto codec = LineCodec::create(encoding, nullptr);
+    if (!codec)
+        return {};
+    const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
+    const QByteArrayView body = skipMark ? bytes.sliced(kMarkSize) : bytes;
+    return codec->decode(body.data(), body.size());
+}
+
+QString WriteResult::warning(const TextEncoding& encoding) const {
+    if (unrepresentable == 0)
+        return {};
+    return u"%1 Zeichen sind in %2 nicht darstellbar und wurden als \"?\" gespeichert."_s.arg(unrepresentable).arg(
+        encoding.displayName());
+}
+
+WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding) {
+    WriteResult result;
+    QString error;
+    const auto codec = LineCodec::create(encoding, &error);
+    if (!codec) {
+        result.error = saveErrorText(path, error);
+        return result;
+    }
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        result.error = saveErrorText(path, u"An ihrer Stelle steht ein Verzeichnis."_s);
+        return result;
+    }
+    if (!info.absoluteDir().exists()) {
+        result.error =
+            saveErrorText(path, u"Das Verzeichnis %1 existiert nicht."_s.arg(nativePath(info.absolutePath())));
+        return result;
+    }
+
+    QSaveFile file(path);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly)) {
+        result.error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
+        return result;
+    }
+    int writeErrno = 0;
+    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
+        file.write(kUtf8Mark, kMarkSize);
+    const bool written = encodeLines(lines, *codec, result.unrepresentable, [&](const QByteArray& bytes) {
+        errno = 0;
+        if (file.write(bytes) == bytes.size())
+            return true;
+        writeErrno = errno;
+        return false;
+    });
+    if (!written) {
+        file.cancelWriting();
+        result.error = saveErrorText(path, reasonForErrno(writeErrno, file.errorString()));
+        return result;
+    }
+    errno = 0;
+    if (!file.commit()) {
+        result.error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
+        return result;
+    }
+    result.ok = true;
+    return result;
+}
+
+WriteResult writeDocument(QIODevice& device, const QStringList& lines, const TextEncoding& encoding) {
+    WriteResult result;
+    QString error;
+    const auto codec = LineCodec::create(encoding, &error);
+    if (!codec) {
+        result.error = error;
+        return result;
+    }
+    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
+        device.write(kUtf8Mark, kMarkSize);
+    const bool written = encodeLines(lines, *codec, result.unrepresentable, [&](const QByteArray& bytes) {
+        return device.write(bytes) == bytes.size();
+    });
+    if (!written) {
+        result.error = u"Schreibfehler: %1"_s.arg(device.errorString());
+        return result;
+    }
+    result.ok = true;
+    return result;
+}
+
+} // namespace quenfor

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "document/textencoding.h"
+
+#include <QByteArrayView>
+#include <QIODevice>
+#include <QStringList>
+
+namespace quenfor {
+
+// Which code page to use for files that are not UTF-8. `force` applies it to every file, UTF-8
+// detection included (the command line's --codepage).
+struct EncodingChoice {
+    QString codepage = QStringLiteral("windows-1252");
+    bool force = false;
+};
+
+struct ReadResult {
+    bool ok = false;
+    QString error; // German, for the user
+    QStringList lines;
+    TextEncoding encoding;
+};
+
+// Reads a file into lines by the reader's line rule, decoded as the encoding rule decides.
+// Reads in pieces, so a file costs little more memory than its lines.
+ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice);
+ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice);
+
+// The whole text of some bytes, decoded by the same rule, line ends included (the repair works
+// on the text as it stands in the file).
+QString decodeText(QByteArrayView bytes, const EncodingChoice& choice, TextEncoding* used = nullptr);
+
+struct WriteResult {
+    bool ok = false;
+    QString error;                // German, for the user; the previous file is then untouched
+    qsizetype unrepresentable = 0; // characters the encoding could not hold, written as "?"
+
+    QString warning(const TextEncoding& encoding) const;
+};
+
+// Writes every line encoded and followed by CR LF. The file is replaced atomically: a save that
+// fails at any point leaves the previous file byte for byte as it was, and its permissions stay.
+WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding);
+
+// The same bytes to an open device (standard output of the command-line tool).
+WriteResult writeDocument(QIODevice& device, const QStringList& lines, const TextEncoding& encoding);
+
+} // namespace quenfor

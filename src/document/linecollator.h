@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QCollator>
+#include <QLocale>
+#include <QStringView>
+
+#include <array>
+
+namespace quenfor {
+
+// The order of a sorted list box: ascending, case-insensitive, in the user's collation, so "_"
+// and other punctuation come before digits and digits before letters.
+//
+// Configuration files are nearly all ASCII, and asking the collation library for every pair of
+// a million lines is slow. The collator therefore learns once how the locale orders the 128 ASCII
+// characters, checks that pairs of them order the same way (locales with contractions such as a
+// Czech "ch" fail the check and are always asked), and then compares ASCII lines by a table.
+// Lines with other characters are always compared by the library.
+class LineCollator {
+public:
+    explicit LineCollator(const QLocale& locale = QLocale());
+
+    // < 0, 0 or > 0, like QCollator::compare.
+    int compare(QStringView a, QStringView b) const;
+    bool hasAsciiTable() const { return m_asciiTable; }
+
+    static bool isAscii(QStringView text);
+    // The first eight ASCII weights packed for a quick first comparison (ASCII text only).
+    quint64 asciiPrefix(QStringView text) const;
+    int compareAscii(QStringView a, QStringView b) const;
+    const QCollator& collator() const { return m_collator; }
+
+private:
+    bool buildAsciiTable();
+
+    QCollator m_collator;
+    std::array<quint8, 128> m_weight{}; // 0: ignored by the collation (most control characters)
+    bool m_asciiTable = false;
+};
+
+} // namespace quenfor
