@@ -2,9 +2,10 @@
 # Every target of the project links it, so all code is held to the same rules.
 add_library(quenfor_options INTERFACE)
 target_compile_features(quenfor_options INTERFACE cxx_std_20)
-target_compile_options(quenfor_options INTERFACE -Wall -Wextra -Wpedantic)
-if(QUENFOR_WERROR)
-    target_compile_options(quenfor_options INTERFACE -Werror)
+if(MSVC)
+    target_compile_options(quenfor_options INTERFACE /W4 /utf-8 $<$<BOOL:${QUENFOR_WERROR}>:/WX>)
+else()
+    target_compile_options(quenfor_options INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${QUENFOR_WERROR}>:-Werror>)
 endif()
 target_compile_definitions(quenfor_options INTERFACE
     QT_NO_CAST_FROM_ASCII

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace quenfor {
+
+// The 8.3 short form and the long form of a path. File systems without short names give the path
+// back as it is; on Windows a path the system cannot resolve gives an empty string.
+QString shortPathName(const QString& path);
+QString longPathName(const QString& path);
+
+} // namespace quenfor

@@ -1,0 +1,13 @@
+#include "common/pathnames.h"
+
+namespace quenfor {
+
+QString shortPathName(const QString& path) {
+    return path;
+}
+
+QString longPathName(const QString& path) {
+    return path;
+}
+
+} // namespace quenfor

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace quenfor {
+
+// The parts of a path. folder keeps its separators ("\w\" of "C:\w\a.prt"), so that
+// drive + folder + name + extension gives the path back up to the versions cut off the end.
+struct PathParts {
+    QString drive;     // "C:" when the second character is ":", else empty
+    QString folder;    // up to and including the last separator
+    QString name;      // the file name before its first dot
+    QString extension; // the first extension with its dot: ".prt" of "bracket.prt.3"
+};
+
+PathParts splitPath(QStringView path);
+
+// folder + native separator + name; no separator is added when the folder already ends in one
+// (a root) or is empty.
+QString joinFolderAndName(QStringView folder, QStringView name);
+
+} // namespace quenfor
