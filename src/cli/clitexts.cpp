@@ -17,7 +17,8 @@ const QString kCommonOptions = u"Gemeinsame Optionen:\n"
 
 const QHash<QString, QString>& commandTexts() {
     static const QHash<QString, QString> texts = {
-        {u"cat"_s, u"quenfor-cli cat DATEI\n  Öffnet DATEI und speichert sie wieder, sonst nichts (CR LF nach jeder Zeile).\n"_s},
+        {u"cat"_s,
+         u"quenfor-cli cat DATEI\n  Öffnet DATEI und speichert sie wieder, sonst nichts (CR LF nach jeder Zeile).\n"_s},
         {u"blank"_s,
          u"quenfor-cli blank DATEI\n  \"Leerzeilen löschen\": entfernt Zeilen aus Leerzeichen und fasst mehrere\n"
          "  Leerzeichen in einer Zeile zu einem zusammen.\n"_s},
@@ -30,13 +31,14 @@ const QHash<QString, QString>& commandTexts() {
          "  Die zuerst einsortierte Zeile entfällt dabei; stderr nennt sie.\n"_s},
         {u"lower"_s,
          u"quenfor-cli lower DATEI\n  \"Großbuchstaben umwandeln in Kleinbuchstaben\" (außer Kommentaren und Mapkeys).\n"_s},
-        {u"repair"_s,
-         u"quenfor-cli repair DATEI\n  \"fragmentierten Unix Text reparieren\": trennt Text mit LF-Zeilenenden wieder in\n"
-         "  Zeilen. Eine Datei mit CR LF erhält dabei nach jeder Zeile eine Leerzeile.\n"_s},
+        {u"repair"_s, u"quenfor-cli repair DATEI\n  \"fragmentierten Unix Text reparieren\": trennt Text mit "
+                      u"LF-Zeilenenden wieder in\n"
+                      "  Zeilen. Eine Datei mit CR LF erhält dabei nach jeder Zeile eine Leerzeile.\n"_s},
         {u"kinds"_s, u"quenfor-cli kinds DATEI\n  Gibt für jede Zeile ihre Nummer, einen Tabulator und ihre Art aus\n"
                      "  (mapkey, continuation, comment, favorite, option, blank).\n"_s},
-        {u"family"_s, u"quenfor-cli family NAME\n  Gibt die Dateifamilie eines Dateinamens aus (config, dtl, pcf, searchpro, scl\n"
-                      "  oder none), dann Auswahlliste, Optionsliste, Wissensdatei und Speichername.\n"_s},
+        {u"family"_s,
+         u"quenfor-cli family NAME\n  Gibt die Dateifamilie eines Dateinamens aus (config, dtl, pcf, searchpro, scl\n"
+         "  oder none), dann Auswahlliste, Optionsliste, Wissensdatei und Speichername.\n"_s},
         {u"split-mapkey"_s,
          u"quenfor-cli split-mapkey ZEILE\n  Teilt eine lange Mapkey-Zeile wie der Umbruch des Fensters und gibt die\n"
          "  Zeilen des Dokuments danach aus.\n"_s},

@@ -38,8 +38,7 @@ int printFamily(const CliArgs& args, const CliStreams& io) {
     if (args.positional.size() != 1)
         return usage(io, u"family NAME"_s);
     const FileFamily f = fileFamilyOf(args.positional.front());
-    io.print(QStringList{familyKindName(f.kind), f.pickerList, f.optionListFile, f.knowledgeBaseFile,
-                         f.defaultSaveName}
+    io.print(QStringList{familyKindName(f.kind), f.pickerList, f.optionListFile, f.knowledgeBaseFile, f.defaultSaveName}
                  .join(u'\t') +
              u'\n');
     return kOk;

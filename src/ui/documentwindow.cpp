@@ -1,7 +1,7 @@
 #include "ui/documentwindow.h"
 
 #include "document/configdocument.h"
-#include "document/documentfile.h"
+#include "document/documentstorage.h"
 #include "settings/settingsstore.h"
 #include "ui/documentlistmodel.h"
 
@@ -39,19 +39,17 @@ DocumentWindow::DocumentWindow(QWidget* parent)
 
 bool DocumentWindow::openFile(const QString& path) {
     EncodingChoice choice;
-    choice.codepage = SettingsStore(QStringLiteral("quenfor"))
-                          .value(QStringLiteral("Optionen"), QStringLiteral("Codepage"), QStringLiteral("windows-1252"));
-    m_status->setText(tr("Datei lesen..."));
-    ReadResult read = readDocumentFile(path, choice);
-    if (!read.ok) {
-        m_status->setText(read.error);
+    choice.codepage =
+        SettingsStore(QStringLiteral("quenfor"))
+            .value(QStringLiteral("Optionen"), QStringLiteral("Codepage"), QStringLiteral("windows-1252"));
+    m_status->setText(QString::fromUtf16(kReadingStatus));
+    const StorageResult opened = openDocument(*m_document, path, choice);
+    if (!opened.ok) {
+        m_status->setText(opened.error);
         return false;
     }
-    m_document->replaceAll(std::move(read.lines));
-    m_document->setFileName(path);
-    m_document->setEncoding(read.encoding);
-    m_fileLabel->setText(QDir::toNativeSeparators(path));
-    m_status->setText(tr("%1 Zeilen gelesen (%2)").arg(m_document->count()).arg(read.encoding.displayName()));
+    m_fileLabel->setText(QDir::toNativeSeparators(m_document->fileName()));
+    m_status->setText(tr("%1 Zeilen gelesen (%2)").arg(m_document->count()).arg(m_document->encoding().displayName()));
     return true;
 }
 
