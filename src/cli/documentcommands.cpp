@@ -2,7 +2,7 @@
 
 #include "document/cleanuptools.h"
 #include "document/documentfile.h"
-#include "settings/settingsstore.h"
+#include "settings/mainsettings.h"
 
 #include <QFile>
 #include <QLocale>
@@ -67,7 +67,7 @@ int writeOutput(const QString& file, const CliArgs& args, const CliStreams& io, 
 QString effectiveCodepage(const CliArgs& args) {
     if (args.codepage)
         return *args.codepage;
-    return SettingsStore(u"quenfor"_s).value(u"Optionen"_s, u"Codepage"_s, u"windows-1252"_s);
+    return settingValue(Setting::Codepage);
 }
 
 bool isDocumentCommand(const QString& command) {

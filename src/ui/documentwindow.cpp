@@ -2,7 +2,7 @@
 
 #include "document/configdocument.h"
 #include "document/documentstorage.h"
-#include "settings/settingsstore.h"
+#include "settings/mainsettings.h"
 #include "ui/documentlistmodel.h"
 
 #include <QDir>
