@@ -39,9 +39,7 @@ DocumentWindow::DocumentWindow(QWidget* parent)
 
 bool DocumentWindow::openFile(const QString& path) {
     EncodingChoice choice;
-    choice.codepage =
-        SettingsStore(QStringLiteral("quenfor"))
-            .value(QStringLiteral("Optionen"), QStringLiteral("Codepage"), QStringLiteral("windows-1252"));
+    choice.codepage = settingValue(Setting::Codepage);
     m_status->setText(QString::fromUtf16(kReadingStatus));
     const StorageResult opened = openDocument(*m_document, path, choice);
     if (!opened.ok) {
