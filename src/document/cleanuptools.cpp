@@ -101,7 +101,15 @@ void sortIndexes(const QStringList& lines, std::vector<int>& indexes, const Line
         std::vector<int> order(indexes.size());
         for (size_t i = 0; i < order.size(); ++i)
             order[i] = int(i);
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return keys[a].compare(keys[b]) < 0; });
+        // As QCollator::compare does, an empty line goes before every other line, even one whose
+        // characters the collation ignores (their sort keys would be equal).
+        std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+            const bool emptyA = lines[indexes[a]].isEmpty();
+            const bool emptyB = lines[indexes[b]].isEmpty();
+            if (emptyA || emptyB)
+                return emptyA && !emptyB;
+            return keys[a].compare(keys[b]) < 0;
+        });
         std::vector<int> sorted;
         sorted.reserve(order.size());
         for (int i : order)
@@ -146,8 +154,7 @@ QStringList sortLinesAlphabetically(const QStringList& lines, const QLocale& loc
     for (int i = 0; i < lines.size(); ++i)
         (staysUnsorted(lines[i]) ? keptPart : sortedPart).push_back(i);
 
-    const LineCollator collator(locale);
-    sortIndexes(lines, sortedPart, collator);
+    sortIndexes(lines, sortedPart, LineCollator::forLocale(locale));
 
     if (dropped)
         *dropped = sortedPart.empty() ? std::nullopt : std::optional<QString>(lines[sortedPart.front()]);

@@ -13,9 +13,12 @@ void ConfigDocument::insertLine(int index, const QString& text) {
     emit aboutToInsertLines(index, index);
     m_lines.insert(index, text);
     m_selected.insert(m_selected.begin() + index, 0);
-    if (m_marked >= index)
+    const bool markMoved = m_marked >= index;
+    if (markMoved)
         ++m_marked;
     emit linesInserted(index, index);
+    if (markMoved)
+        emit markedChanged(m_marked);
 }
 
 void ConfigDocument::appendLine(const QString& text) {
@@ -39,11 +42,14 @@ void ConfigDocument::removeLine(int index) {
     if (m_selected[index])
         --m_selectedCount;
     m_selected.erase(m_selected.begin() + index);
+    const int markedBefore = m_marked;
     if (m_marked == index)
         m_marked = -1;
     else if (m_marked > index)
         --m_marked;
     emit linesRemoved(index, index);
+    if (m_marked != markedBefore)
+        emit markedChanged(m_marked);
 }
 
 void ConfigDocument::resetState() {
@@ -110,6 +116,21 @@ void ConfigDocument::clearSelection() {
     std::fill(m_selected.begin(), m_selected.end(), 0);
     m_selectedCount = 0;
     emit selectionChanged();
+}
+
+void ConfigDocument::setRangeSelected(int first, int last, bool selected) {
+    first = qMax(first, 0);
+    last = qMin(last, count() - 1);
+    bool changed = false;
+    for (int i = first; i <= last; ++i) {
+        if (bool(m_selected[i]) != selected) {
+            m_selected[i] = selected ? 1 : 0;
+            m_selectedCount += selected ? 1 : -1;
+            changed = true;
+        }
+    }
+    if (changed)
+        emit selectionChanged();
 }
 
 void ConfigDocument::selectOnly(int index) {

@@ -43,6 +43,8 @@ public:
     bool isSelected(int index) const;
     void setSelected(int index, bool selected);
     void clearSelection();
+    // Selects or deselects the rows first..last with a single notification (a view's "select all").
+    void setRangeSelected(int first, int last, bool selected);
     // Clears the selection and selects this one line.
     void selectOnly(int index);
     QList<int> selectedRows() const;

@@ -32,7 +32,8 @@ bool isUtf8Codepage(const QString& name) {
 
 TextEncoding chooseEncoding(bool mark, bool validUtf8, bool nonAscii, const EncodingChoice& choice) {
     if (choice.force)
-        return isUtf8Codepage(choice.codepage) ? TextEncoding::utf8(mark) : TextEncoding::codepageNamed(choice.codepage);
+        return isUtf8Codepage(choice.codepage) ? TextEncoding::utf8(mark)
+                                               : TextEncoding::codepageNamed(choice.codepage);
     if (mark || (validUtf8 && nonAscii))
         return TextEncoding::utf8(mark);
     return TextEncoding::codepageNamed(choice.codepage);
@@ -312,8 +313,8 @@ QString decodeText(QByteArrayView bytes, const EncodingChoice& choice, TextEncod
 QString WriteResult::warning(const TextEncoding& encoding) const {
     if (unrepresentable == 0)
         return {};
-    return u"%1 Zeichen sind in %2 nicht darstellbar und wurden als \"?\" gespeichert."_s.arg(unrepresentable).arg(
-        encoding.displayName());
+    return u"%1 Zeichen sind in %2 nicht darstellbar und wurden als \"?\" gespeichert."_s.arg(unrepresentable)
+        .arg(encoding.displayName());
 }
 
 WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding) {
@@ -375,9 +376,8 @@ WriteResult writeDocument(QIODevice& device, const QStringList& lines, const Tex
     }
     if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
         device.write(kUtf8Mark, kMarkSize);
-    const bool written = encodeLines(lines, *codec, result.unrepresentable, [&](const QByteArray& bytes) {
-        return device.write(bytes) == bytes.size();
-    });
+    const bool written = encodeLines(lines, *codec, result.unrepresentable,
+                                     [&](const QByteArray& bytes) { return device.write(bytes) == bytes.size(); });
     if (!written) {
         result.error = u"Schreibfehler: %1"_s.arg(device.errorString());
         return result;

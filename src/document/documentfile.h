@@ -33,7 +33,7 @@ QString decodeText(QByteArrayView bytes, const EncodingChoice& choice, TextEncod
 
 struct WriteResult {
     bool ok = false;
-    QString error;                // German, for the user; the previous file is then untouched
+    QString error;                 // German, for the user; the previous file is then untouched
     qsizetype unrepresentable = 0; // characters the encoding could not hold, written as "?"
 
     QString warning(const TextEncoding& encoding) const;

@@ -18,14 +18,14 @@ struct FileFamily {
     QString knowledgeBaseFile; // "config_opts.txt", "dtl_opts.txt", "pcf_opts.txt"
     QString defaultSaveName;   // preset of txt_save
 
-    bool pickerVisible = false;          // the picker list named above is shown
-    bool addFrameVisible = true;         // frame_hinzu
-    bool allButtonVisible = true;        // cmdAlle
-    bool optionFrameVisible = false;     // Frame1
-    bool categoryBoxVisible = false;     // combo_kathegorie
-    bool optionMenuEnabled = true;       // mnuOption
-    bool searchProFrameVisible = false;  // frame_search_pro
-    bool colorButtonVisible = false;     // cmd_Color
+    bool pickerVisible = false;         // the picker list named above is shown
+    bool addFrameVisible = true;        // frame_hinzu
+    bool allButtonVisible = true;       // cmdAlle
+    bool optionFrameVisible = false;    // Frame1
+    bool categoryBoxVisible = false;    // combo_kathegorie
+    bool optionMenuEnabled = true;      // mnuOption
+    bool searchProFrameVisible = false; // frame_search_pro
+    bool colorButtonVisible = false;    // cmd_Color
 
     // Status text after the picker source was read, e.g. "quenfor.pro wurde gelesen".
     QString pickerLoadedStatus() const;

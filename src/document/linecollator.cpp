@@ -4,8 +4,12 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <map>
+#include <memory>
 #include <numeric>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace quenfor {
 
@@ -28,6 +32,14 @@ LineCollator::LineCollator(const QLocale& locale) : m_collator(collationLocale(l
     m_asciiTable = buildAsciiTable();
 }
 
+const LineCollator& LineCollator::forLocale(const QLocale& locale) {
+    thread_local std::map<QString, std::unique_ptr<LineCollator>> collators;
+    auto& slot = collators[locale.name()];
+    if (!slot)
+        slot = std::make_unique<LineCollator>(locale);
+    return *slot;
+}
+
 bool LineCollator::isAscii(QStringView text) {
     for (QChar c : text) {
         if (c.unicode() >= 0x80)
@@ -45,11 +57,12 @@ bool LineCollator::buildAsciiTable() {
     std::stable_sort(order.begin(), order.end(),
                      [&](int a, int b) { return m_collator.compare(single[a], single[b]) < 0; });
 
-    const QString empty;
+    // Qt compares an empty string by length alone, so ignorable characters are found behind a letter.
+    const QString letter = u"a"_s;
     int weight = 0;
     for (size_t i = 0; i < order.size(); ++i) {
         const int c = order[i];
-        if (m_collator.compare(single[c], empty) == 0) {
+        if (m_collator.compare(letter + single[c], letter) == 0) {
             m_weight[c] = 0;
             continue;
         }
@@ -67,7 +80,8 @@ bool LineCollator::buildAsciiTable() {
             pairs.append(QString(QChar(a)) + QChar(b));
     }
     auto tableCompare = [&](QStringView x, QStringView y) { return compareAscii(x, y); };
-    std::stable_sort(pairs.begin(), pairs.end(), [&](const QString& x, const QString& y) { return tableCompare(x, y) < 0; });
+    std::stable_sort(pairs.begin(), pairs.end(),
+                     [&](const QString& x, const QString& y) { return tableCompare(x, y) < 0; });
     for (qsizetype i = 1; i < pairs.size(); ++i) {
         const int byTable = tableCompare(pairs[i - 1], pairs[i]);
         const int byCollation = m_collator.compare(pairs[i - 1], pairs[i]);
@@ -78,6 +92,8 @@ bool LineCollator::buildAsciiTable() {
 }
 
 int LineCollator::compareAscii(QStringView a, QStringView b) const {
+    if (a.isEmpty() || b.isEmpty()) // as QCollator does: an empty line before every other line
+        return int(!a.isEmpty()) - int(!b.isEmpty());
     qsizetype i = 0;
     qsizetype j = 0;
     for (;;) {

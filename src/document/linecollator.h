@@ -20,6 +20,9 @@ class LineCollator {
 public:
     explicit LineCollator(const QLocale& locale = QLocale());
 
+    // Learning a locale's table takes a moment: the collators are kept, one per locale and thread.
+    static const LineCollator& forLocale(const QLocale& locale);
+
     // < 0, 0 or > 0, like QCollator::compare.
     int compare(QStringView a, QStringView b) const;
     bool hasAsciiTable() const { return m_asciiTable; }

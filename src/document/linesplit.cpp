@@ -10,6 +10,8 @@ QStringList splitLines(QStringView text) {
 }
 
 qsizetype offsetAfterLines(QStringView text, qsizetype count) {
+    if (count <= 0)
+        return 0;
     qsizetype seen = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (text[i] != u'\r')

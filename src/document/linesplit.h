@@ -10,8 +10,7 @@ namespace quenfor {
 // without an end is a line of its own. An empty text has no lines.
 //
 // Calls sink(start, length) for each line of the complete text.
-template <typename Char, typename Sink>
-void forEachLine(const Char* data, qsizetype size, Sink&& sink) {
+template <typename Char, typename Sink> void forEachLine(const Char* data, qsizetype size, Sink&& sink) {
     qsizetype start = 0;
     for (qsizetype i = 0; i < size; ++i) {
         if (data[i] != Char('\r'))

@@ -37,8 +37,15 @@ MapkeySplitResult splitMapkeyLine(ConfigDocument& doc, const QString& entry) {
     }
     // Without a ";" to split at, the two empty halves are still placed: the user sees two gaps
     // and knows the line needs a manual break.
-    insertEntryLine(doc, tail);
-    insertEntryLine(doc, head);
+    // When the insert rule appends, both halves are appended, tail first: appending marks the
+    // tail, and inserting the head by the rule would put it above the tail instead.
+    if (doc.marked() < 0 || !doc.isSelected(doc.marked())) {
+        appendEntryLine(doc, tail);
+        appendEntryLine(doc, head);
+    } else {
+        insertEntryLine(doc, tail);
+        insertEntryLine(doc, head);
+    }
     result.placed = true;
     result.entryLine = head;
     result.status = u"check your mapkey !"_s;

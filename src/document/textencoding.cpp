@@ -159,15 +159,21 @@ public:
         const qsizetype start = out.size();
         out.resize(start + line.size());
         char* dst = out.data() + start;
+        qsizetype written = 0;
         for (qsizetype i = 0; i < line.size(); ++i) {
-            const qint16 b = m_fromUnicode[line[i].unicode()];
-            if (b < 0) {
-                dst[i] = '?';
-                ++unrepresentable;
-            } else {
-                dst[i] = char(b);
+            const char16_t c = line[i].unicode();
+            const qint16 b = m_fromUnicode[c];
+            if (b >= 0) {
+                dst[written++] = char(b);
+                continue;
             }
+            // A character beyond the basic plane is one character, though two UTF-16 units.
+            if (isHighSurrogate(c) && i + 1 < line.size() && isLowSurrogate(line[i + 1].unicode()))
+                ++i;
+            dst[written++] = '?';
+            ++unrepresentable;
         }
+        out.resize(start + written);
     }
 
 private:
