@@ -1,4 +1,4 @@
-#include "ui/documentwindow.h"
+#include "ui/mainwindow.h"
 
 #include <QApplication>
 
@@ -12,16 +12,10 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quenfor"));
     QApplication::setApplicationVersion(QStringLiteral(QUENFOR_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("quenfor"));
 
-    quenfor::DocumentWindow window;
-    QStringList args = QApplication::arguments();
-    if (args.size() > 1) {
-        QString path = args.at(1);
-        // The program may be started with the path in double quotes; they are not part of it.
-        if (path.size() >= 2 && path.startsWith(u'"') && path.endsWith(u'"'))
-            path = path.mid(1, path.size() - 2);
-        window.openFile(path);
-    }
+    quenfor::MainWindow window;
+    window.startUp(QApplication::arguments().mid(1));
     window.show();
     return app.exec();
 }

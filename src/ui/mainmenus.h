@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace quenfor {
+
+// The menu bar of the main window: every caption in its order, each action reachable by its
+// object name.
+struct MainMenus {
+    QMenu* optionMenu = nullptr; // mnuOption, disabled for drawing setup and plotter files
+    QHash<QString, QAction*> actions;
+
+    QAction* action(const QString& objectName) const { return actions.value(objectName); }
+};
+
+MainMenus buildMainMenus(QMenuBar* bar);
+
+// Entries whose tool window does not exist yet: disabled, and hovering one says so.
+inline constexpr char16_t kNotAvailableYet[] = u"noch nicht verfügbar";
+
+} // namespace quenfor

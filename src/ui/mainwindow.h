@@ -1,0 +1,100 @@
+#pragma once
+
+#include "ui/mainmenus.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+class QLabel;
+class QStackedWidget;
+
+namespace quenfor {
+
+class ColourPanel;
+class ConfigDocument;
+class ContextMenuPanel;
+class DocumentListView;
+class EntryLinePanel;
+class FileChooserPanel;
+class FolderPanel;
+class PickerPanel;
+class SearchDialog;
+class StatusHints;
+class TempDirPanel;
+class ToolColumn;
+
+// Form1, the program: the document in List1 with the entry line above it, tool buttons on the
+// left, the option picker on the right, the status line below and the menus that open every
+// other tool.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // The start-up order: colour scheme, temporary directory, the file of the command line
+    // (arguments without the program name) or the last folder, then the file family.
+    void startUp(const QStringList& arguments);
+
+    ConfigDocument* document() const { return m_document; }
+    void setStatus(const QString& text);
+    QString status() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildLayout();
+    void connectMenus();
+    void connectEditing();
+    void connectTools();
+    void connectPanels();
+
+    // Panels
+    void showCentre(QWidget* page);
+    void showChooser();
+    void applyScheme(const QString& name);
+    void checkStoredTempDir();
+    void zoomToStandardSize();
+    void resetSettings();
+
+    // Files
+    void openFile(const QString& path);
+    void openLastFile();
+    void save();
+    void showSearchDialog();
+    void applyFamilyOf(const QString& fileName);
+    void showFileLabel();
+
+    // The list and the entry line
+    void lineClicked(int row);
+    void entryChanged(const QString& text);
+    void showMarked(int row);
+    void showContextMenu(const QPoint& globalPos);
+    void runWholeDocumentTool(const std::function<QString()>& tool);
+    void repairFragmentedFile();
+    void splitMapkey();
+
+    ConfigDocument* m_document;
+    StatusHints* m_hints = nullptr;
+    MainMenus m_menus;
+    QLabel* m_fileLabel = nullptr;    // Label1
+    QLabel* m_number = nullptr;       // lblnumber
+    QLabel* m_status = nullptr;       // lblstatus
+    QLabel* m_pathOk = nullptr;       // img_pathok
+    QLabel* m_pathNotValid = nullptr; // img_pathnotvalid
+    EntryLinePanel* m_entry = nullptr;
+    DocumentListView* m_list = nullptr;
+    ToolColumn* m_tools = nullptr;
+    PickerPanel* m_picker = nullptr;
+    ContextMenuPanel* m_contextMenu = nullptr;
+    QStackedWidget* m_centre = nullptr;
+    QPointer<SearchDialog> m_searchDialog;
+    FileChooserPanel* m_chooser = nullptr; // Dateiauswahl
+    FolderPanel* m_folders = nullptr;      // frameDir
+    TempDirPanel* m_tempDir = nullptr;     // Tempdir
+    ColourPanel* m_colours = nullptr;      // Farben
+};
+
+} // namespace quenfor

@@ -1,0 +1,30 @@
+#include "ui/statushints.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QWidget>
+
+namespace quenfor {
+
+StatusHints::StatusHints(QLabel* statusLine, QObject* parent) : QObject(parent), m_statusLine(statusLine) {}
+
+void StatusHints::add(QWidget* widget, const QString& hint) {
+    m_hints.insert(widget, hint);
+    widget->installEventFilter(this);
+    connect(widget, &QObject::destroyed, this, [this, widget] { m_hints.remove(widget); });
+}
+
+QString StatusHints::hintOf(const QWidget* widget) const {
+    return m_hints.value(widget);
+}
+
+bool StatusHints::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Enter && m_statusLine) {
+        const auto it = m_hints.constFind(watched);
+        if (it != m_hints.constEnd())
+            m_statusLine->setText(*it);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace quenfor

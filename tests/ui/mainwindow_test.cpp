@@ -1,0 +1,213 @@
+// Drives the real main window as a user would: clicks, typing, Enter, buttons and menu entries.
+#include "document/configdocument.h"
+#include "panelsandbox.h"
+#include "settings/mainsettings.h"
+#include "ui/dialogs.h"
+#include "ui/mainwindow.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace Qt::StringLiterals;
+using namespace quenfor;
+
+namespace {
+
+QByteArray readFile(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+} // namespace
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_file;
+    std::unique_ptr<MainWindow> m_window;
+    QStringList m_asked;
+    Dialogs::Answer m_answer = Dialogs::Answer::Yes;
+
+    ConfigDocument& doc() { return *m_window->document(); }
+    QListView* list() { return m_window->findChild<QListView*>(u"List1"_s); }
+    QLineEdit* entry() { return m_window->findChild<QLineEdit*>(u"Text1"_s); }
+    QString label(const QString& name) { return m_window->findChild<QLabel*>(name)->text(); }
+    QAction* action(const QString& name) { return m_window->findChild<QAction*>(name); }
+
+    void click(const QString& buttonName) {
+        auto* button = m_window->findChild<QAbstractButton*>(buttonName);
+        QVERIFY2(button, qPrintable(buttonName));
+        QVERIFY2(button->isEnabled(), qPrintable(buttonName));
+        button->click();
+    }
+
+    void clickLine(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        const QRect rect = list()->visualRect(list()->model()->index(row, 0));
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, rect.center());
+    }
+
+private slots:
+    void init() {
+        m_file = m_dir.filePath(u"config.pro"_s);
+        QByteArray text;
+        for (int i = 0; i < 10; ++i)
+            text += "opt" + QByteArray::number(i) + " wert\r\n";
+        writeFile(m_file, text);
+        m_asked.clear();
+        m_answer = Dialogs::Answer::Yes;
+        Dialogs::setHandler([this](const Dialogs::Request& r) {
+            m_asked.append(r.text);
+            return Dialogs::Reply{m_answer, {}};
+        });
+        m_window = std::make_unique<MainWindow>();
+        m_window->resize(1000, 700);
+        m_window->startUp({u"\""_s + m_file + u"\""_s}); // quotes are taken off
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void cleanup() {
+        m_answer = Dialogs::Answer::No; // do not save the test document on close
+        m_window.reset();
+        Dialogs::setHandler({});
+    }
+
+    void opensTheFileOfTheCommandLine() {
+        QCOMPARE(doc().count(), 10);
+        QCOMPARE(label(u"Label1"_s), QDir::toNativeSeparators(m_file));
+        QCOMPARE(label(u"lblnumber"_s), u"Nr."_s);
+        QCOMPARE(settingValue(Setting::Dir1), QDir::toNativeSeparators(m_dir.path()));
+        QVERIFY(!action(u"mnuPurge"_s)->isEnabled()); // its window comes later
+        QVERIFY(action(u"mnuLeerzeilen"_s)->isEnabled());
+    }
+
+    void clickEditAndEnterReplacesTheLine() {
+        clickLine(3);
+        QCOMPARE(entry()->text(), u"opt3 wert"_s);
+        QCOMPARE(label(u"lblnumber"_s), u"3"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"auswählen..."_s);
+        entry()->setText(u"opt3 neu"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        QCOMPARE(doc().line(3), u"opt3 neu"_s);
+        QCOMPARE(doc().count(), 10);
+    }
+
+    void deleteLeavesEmptyLinesAndInsertFillsOrPushes() {
+        clickLine(3);
+        clickLine(5, Qt::ControlModifier);
+        click(u"Image8"_s);
+        QCOMPARE(doc().count(), 10);
+        QVERIFY(doc().line(3).isEmpty());
+        QVERIFY(doc().line(5).isEmpty());
+        QCOMPARE(label(u"lblstatus"_s), u"löschen..."_s);
+
+        clickLine(5);
+        entry()->setText(u"lücke"_s);
+        click(u"Image9"_s);
+        QCOMPARE(doc().line(5), u"lücke"_s); // an empty marked line is filled in place
+
+        clickLine(7);
+        entry()->setText(u"darüber"_s);
+        click(u"Image9"_s);
+        QCOMPARE(doc().line(7), u"darüber"_s);
+        QCOMPARE(doc().line(8), u"opt7 wert"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"Eintrag in Liste eingefügt"_s);
+    }
+
+    void moveToTopKeepsTheOrderAbove() {
+        clickLine(4);
+        click(u"ontop"_s);
+        QCOMPARE(doc().lines().mid(0, 6), QStringList({u"opt4 wert"_s, u"opt0 wert"_s, u"opt1 wert"_s, u"opt2 wert"_s,
+                                                       u"opt3 wert"_s, u"opt5 wert"_s}));
+        click(u"img_up"_s); // already at the top
+        QCOMPARE(doc().line(0), u"opt4 wert"_s);
+    }
+
+    void copyAndPasteThroughTheClipboard() {
+        clickLine(1);
+        clickLine(2, Qt::ControlModifier);
+        click(u"copy"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"opt1 wert\r\nopt2 wert\r\n"_s);
+        click(u"paste"_s);
+        QCOMPARE(doc().count(), 12);
+        QCOMPARE(doc().line(11), u"opt2 wert"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"Zwischenablage eingefügt"_s);
+    }
+
+    void cleanUpToolsFromTheMenu() {
+        doc().appendLine(u"opt1 wert"_s);
+        doc().appendLine(u"  "_s);
+        clickLine(2);
+        action(u"mnuDoppelte"_s)->trigger();
+        QCOMPARE(doc().count(), 11);
+        QCOMPARE(label(u"lblnumber"_s), u"Nr."_s);
+        action(u"mnuLeerzeilen"_s)->trigger();
+        QCOMPARE(doc().count(), 10);
+        doc().appendLine(u"OPT9 GROSS"_s);
+        action(u"mnuGrossKlein"_s)->trigger();
+        QCOMPARE(doc().line(10), u"opt9 gross"_s);
+        action(u"mnuAlphabet"_s)->trigger();
+        QCOMPARE(doc().count(), 10); // the line that sorts first leaves
+        QCOMPARE(doc().line(0), u"opt1 wert"_s);
+    }
+
+    void deleteAllAsksFirst() {
+        m_answer = Dialogs::Answer::No;
+        action(u"mnuAllesLoeschen"_s)->trigger();
+        QCOMPARE(doc().count(), 10);
+        QCOMPARE(m_asked.last(), u"Soll die die kompletten Einträge gelöscht werden ?"_s);
+        m_answer = Dialogs::Answer::Yes;
+        click(u"cmd_delAll"_s);
+        QCOMPARE(doc().count(), 0);
+    }
+
+    void longMapkeyIsSplitByClickingTheWarning() {
+        const QString mapkey = u"mapkey xx @MAPKEY_LABELlang;~ Command `ProCmdOne`;~ Command `ProCmdTwo`;"_s
+                               u"~ Command `ProCmdThree`;~ Command `ProCmdFour`;"_s;
+        doc().appendLine(mapkey);
+        clickLine(10);
+        auto* warning = m_window->findChild<QLabel*>(u"lbl_warn"_s);
+        QVERIFY(warning->isVisible());
+        QCOMPARE(warning->text(), u"mehr als 98 Zeichen in Zeile ! (Umbruch mit \\ trennen)"_s);
+        QTest::mouseClick(warning, Qt::LeftButton);
+        QVERIFY(doc().line(10).endsWith(u'\\'));
+        QVERIFY(doc().line(11).startsWith(u"mapkey(continued) "_s));
+        QCOMPARE(label(u"lblstatus"_s), u"check your mapkey !"_s);
+    }
+
+    void hoverHintsGoToTheStatusLine() {
+        auto* button = m_window->findChild<QAbstractButton*>(u"ontop"_s);
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(button, &enter);
+        QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
+    }
+
+    void closingAsksAndSaves() {
+        clickLine(0);
+        entry()->setText(u"geändert"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        m_answer = Dialogs::Answer::Yes;
+        QVERIFY(m_window->close());
+        QCOMPARE(m_asked.last(), u"Wollen Sie die Datei %1 speichern ?"_s.arg(m_file));
+        QVERIFY(readFile(m_file).startsWith("ge\xE4ndert\r\nopt1 wert\r\n"));
+        QCOMPARE(settingValue(Setting::Label1), QDir::toNativeSeparators(m_file));
+    }
+};
+
+int main(int argc, char** argv) {
+    return runInSettingsSandbox<MainWindowTest>(argc, argv);
+}
+#include "mainwindow_test.moc"

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "settings/settingsstore.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+// Runs a Qt test object with the settings store and the user's config folder both pointed at
+// temporary folders, set before anything can read a setting, so the user's settings stay untouched.
+template <typename TestObject> int runInSettingsSandbox(int argc, char** argv) {
+    QTemporaryDir configHome;
+    QTemporaryDir storeRoot;
+    if (!configHome.isValid() || !storeRoot.isValid())
+        return 1;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(configHome.path()));
+    quenfor::SettingsStore::setStoreRoot(storeRoot.path());
+
+    QApplication app(argc, argv);
+    TestObject test;
+    return QTest::qExec(&test, argc, argv);
+}
