@@ -41,9 +41,10 @@ QString removeBlankLines(ConfigDocument& doc) {
     return u"temporäre Datei gespeichert"_s;
 }
 
-QStringList removeDuplicateLines(const QStringList& lines) {
+QStringList removeDuplicateLines(QStringList lines) {
     // An open-addressing set of line numbers: a few bytes a line, where a hash of strings would
-    // cost more than the lines themselves on a large file.
+    // cost more than the lines themselves on a large file. Kept lines move forward in place, so
+    // the list is never held twice.
     size_t capacity = 16;
     while (capacity < size_t(lines.size()) * 2)
         capacity *= 2;
@@ -51,31 +52,31 @@ QStringList removeDuplicateLines(const QStringList& lines) {
     std::vector<int> table(capacity, -1);
     std::vector<quint32> slotHash(capacity, 0);
 
-    QStringList kept;
-    kept.reserve(lines.size());
+    int kept = 0;
     for (int i = 0; i < lines.size(); ++i) {
         const QString& line = lines[i];
-        if (line.isEmpty() || startsWithMapkey(line)) {
-            kept.append(line);
-            continue;
-        }
-        const auto hash = quint32(qHash(line));
-        size_t slot = hash & mask;
-        bool duplicate = false;
-        while (table[slot] >= 0) {
-            if (slotHash[slot] == hash && lines[table[slot]] == line) {
-                duplicate = true;
-                break;
+        if (!line.isEmpty() && !startsWithMapkey(line)) {
+            const auto hash = quint32(qHash(line));
+            size_t slot = hash & mask;
+            bool duplicate = false;
+            while (table[slot] >= 0) {
+                if (slotHash[slot] == hash && lines[table[slot]] == line) {
+                    duplicate = true;
+                    break;
+                }
+                slot = (slot + 1) & mask;
             }
-            slot = (slot + 1) & mask;
+            if (duplicate)
+                continue;
+            table[slot] = kept;
+            slotHash[slot] = hash;
         }
-        if (duplicate)
-            continue;
-        table[slot] = i;
-        slotHash[slot] = hash;
-        kept.append(line);
+        if (kept != i)
+            lines[kept] = std::move(lines[i]);
+        ++kept;
     }
-    return kept;
+    lines.resize(kept);
+    return lines;
 }
 
 QString removeDuplicateLines(ConfigDocument& doc) {
@@ -118,27 +119,17 @@ void sortIndexes(const QStringList& lines, std::vector<int>& indexes, const Line
         return;
     }
 
-    // A packed prefix decides most comparisons of ASCII lines without looking at the text.
+    // A packed prefix decides most comparisons without looking at the text.
     struct Entry {
-        quint64 prefix;
+        LineCollator::SortPrefix prefix;
         int index;
-        bool ascii;
     };
     std::vector<Entry> entries;
     entries.reserve(indexes.size());
-    for (int i : indexes) {
-        const bool ascii = LineCollator::isAscii(lines[i]);
-        entries.push_back({ascii ? collator.asciiPrefix(lines[i]) : 0, i, ascii});
-    }
+    for (int i : indexes)
+        entries.push_back({collator.sortPrefix(lines[i]), i});
     std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
-        int c;
-        if (a.ascii && b.ascii) {
-            if (a.prefix != b.prefix)
-                return a.prefix < b.prefix;
-            c = collator.compareAscii(lines[a.index], lines[b.index]);
-        } else {
-            c = collator.collator().compare(lines[a.index], lines[b.index]);
-        }
+        const int c = collator.comparePrefixed(a.prefix, lines[a.index], b.prefix, lines[b.index]);
         return c != 0 ? c < 0 : a.index < b.index;
     });
     for (size_t i = 0; i < entries.size(); ++i)

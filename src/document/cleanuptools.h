@@ -21,7 +21,7 @@ QString removeBlankLines(ConfigDocument& doc);
 
 // Keeps the first of exactly equal lines (case-sensitive, blanks count). Mapkey lines and empty
 // lines are never removed, since repeating them is meaningful.
-QStringList removeDuplicateLines(const QStringList& lines);
+QStringList removeDuplicateLines(QStringList lines);
 QString removeDuplicateLines(ConfigDocument& doc);
 
 // Sorts the option lines ascending, case-insensitively, in the locale's collation; mapkey,

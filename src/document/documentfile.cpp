@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -158,8 +159,9 @@ QString readErrorText(const QString& path, const QFile& file, int err) {
     return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, file.errorString());
 }
 
-ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip) {
+ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip, qsizetype expectedLines) {
     ReadResult result;
+    result.lines.reserve(expectedLines); // no growing copies of a list of a million lines
     QString error;
     const auto codec = LineCodec::create(encoding, &error);
     if (!codec) {
@@ -247,6 +249,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
     QByteArray chunk(kChunkSize, Qt::Uninitialized);
     bool mark = false;
     bool first = true;
+    qsizetype lineEnds = 0;
     for (;;) {
         const qint64 n = file.read(chunk.data(), kChunkSize);
         if (n < 0) {
@@ -260,6 +263,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
             mark = startsWithMark(QByteArrayView(chunk.constData(), n));
         first = false;
         check.feed(chunk.constData(), n);
+        lineEnds += std::count(chunk.constData(), chunk.constData() + n, '\r');
     }
     const bool valid = check.finish();
     const TextEncoding encoding = chooseEncoding(mark, valid, check.nonAscii(), choice);
@@ -271,7 +275,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         return result;
     }
     const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
-    return readStream(file, encoding, skipMark ? kMarkSize : 0);
+    return readStream(file, encoding, skipMark ? kMarkSize : 0, lineEnds + 1);
 }
 
 ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice) {

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <bit>
 #include <map>
 #include <memory>
 #include <numeric>
@@ -112,17 +113,46 @@ int LineCollator::compareAscii(QStringView a, QStringView b) const {
     }
 }
 
-quint64 LineCollator::asciiPrefix(QStringView text) const {
-    quint64 key = 0;
+LineCollator::SortPrefix LineCollator::sortPrefix(QStringView text) const {
+    constexpr int kWidth = 16;
+    constexpr int kCombiningReach = 2; // weights before a non-ASCII character that it may change
+    SortPrefix prefix;
     int taken = 0;
-    for (qsizetype i = 0; i < text.size() && taken < 8; ++i) {
-        const quint8 w = m_weight[text[i].unicode()];
+    qsizetype i = 0;
+    for (; i < text.size() && taken < kWidth; ++i) {
+        const char16_t c = text[i].unicode();
+        if (c >= 0x80) {
+            prefix.decisive = qMax(0, taken - kCombiningReach);
+            return prefix;
+        }
+        const quint8 w = m_weight[c];
         if (w == 0)
             continue;
-        key |= quint64(w) << (8 * (7 - taken));
+        if (taken < 8)
+            prefix.high |= quint64(w) << (8 * (7 - taken));
+        else
+            prefix.low |= quint64(w) << (8 * (15 - taken));
         ++taken;
     }
-    return key;
+    const bool nonAsciiFollows = i < text.size() && text[i].unicode() >= 0x80;
+    prefix.decisive = nonAsciiFollows ? kWidth - kCombiningReach : kWidth;
+    prefix.ascii = isAscii(text.mid(i));
+    return prefix;
+}
+
+int LineCollator::comparePrefixed(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const {
+    if (pa.high != pb.high || pa.low != pb.low) {
+        const int firstDifference =
+            pa.high != pb.high ? std::countl_zero(pa.high ^ pb.high) / 8 : 8 + std::countl_zero(pa.low ^ pb.low) / 8;
+        if (firstDifference < qMin(pa.decisive, pb.decisive)) {
+            if (pa.high != pb.high)
+                return pa.high < pb.high ? -1 : 1;
+            return pa.low < pb.low ? -1 : 1;
+        }
+    }
+    if (pa.ascii && pb.ascii)
+        return compareAscii(a, b);
+    return m_collator.compare(a, b);
 }
 
 int LineCollator::compare(QStringView a, QStringView b) const {

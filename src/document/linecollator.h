@@ -28,8 +28,19 @@ public:
     bool hasAsciiTable() const { return m_asciiTable; }
 
     static bool isAscii(QStringView text);
-    // The first eight ASCII weights packed for a quick first comparison (ASCII text only).
-    quint64 asciiPrefix(QStringView text) const;
+    // The first sixteen ASCII weights of a line, packed for quick comparisons, and how many of
+    // them decide the order on their own: all for an ASCII line (a shorter line is padded with
+    // zeros, which sort first), fewer when a non-ASCII character follows, since it may combine
+    // with the letters before it.
+    struct SortPrefix {
+        quint64 high = 0;
+        quint64 low = 0;
+        int decisive = 0;
+        bool ascii = false; // the whole line, not just the prefix
+    };
+    SortPrefix sortPrefix(QStringView text) const;
+    // Compares two lines whose prefixes were taken by sortPrefix (requires the ASCII table).
+    int comparePrefixed(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const;
     int compareAscii(QStringView a, QStringView b) const;
     const QCollator& collator() const { return m_collator; }
 

@@ -159,8 +159,23 @@ public:
         const qsizetype start = out.size();
         out.resize(start + line.size());
         char* dst = out.data() + start;
-        qsizetype written = 0;
+        // Nearly every line encodes one byte per character; only a line with a character the
+        // code page lacks takes the careful path.
         for (qsizetype i = 0; i < line.size(); ++i) {
+            const qint16 b = m_fromUnicode[line[i].unicode()];
+            if (b < 0) {
+                encodeRest(line, i, out, start, unrepresentable);
+                return;
+            }
+            dst[i] = char(b);
+        }
+    }
+
+private:
+    void encodeRest(QStringView line, qsizetype i, QByteArray& out, qsizetype start, qsizetype& unrepresentable) const {
+        char* dst = out.data() + start;
+        qsizetype written = i;
+        for (; i < line.size(); ++i) {
             const char16_t c = line[i].unicode();
             const qint16 b = m_fromUnicode[c];
             if (b >= 0) {
@@ -176,7 +191,6 @@ public:
         out.resize(start + written);
     }
 
-private:
     std::array<char16_t, 256> m_toUnicode;
     std::vector<qint16> m_fromUnicode;
 };
