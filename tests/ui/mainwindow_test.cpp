@@ -2,6 +2,7 @@
 #include "document/configdocument.h"
 #include "panelsandbox.h"
 #include "settings/mainsettings.h"
+#include "settings/settingsstore.h"
 #include "ui/dialogs.h"
 #include "ui/mainwindow.h"
 
@@ -193,6 +194,93 @@ private slots:
         QEvent enter(QEvent::Enter);
         QApplication::sendEvent(button, &enter);
         QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
+    }
+
+    void menusCarryTheirCaptionsInOrder() {
+        QStringList captions;
+        for (QAction* menuAction : m_window->menuBar()->actions()) {
+            captions.append(menuAction->text());
+            for (QAction* entry : menuAction->menu()->actions())
+                captions.append(entry->text());
+        }
+        QCOMPARE(captions.size(), 5 + 7 + 6 + 13 + 11 + 2);
+        QCOMPARE(captions.mid(0, 8), QStringList({u"&Datei"_s, u"Neu"_s, u"Öffnen"_s, u"Speichern"_s,
+                                                  u"Speichern als..."_s, u"Drucken"_s, u"Purge"_s, u"EXIT"_s}));
+        QVERIFY(captions.contains(u"Ist das Modell auch in der Zeichnung ?"_s));
+        QCOMPARE(captions.mid(captions.size() - 3),
+                 QStringList({u"&Info"_s, u"Über+Q+U+E+N+F+O+R+"_s, u"Temp. Verzeichnis"_s}));
+
+        // An entry whose tool comes later says so instead of doing nothing.
+        auto* menu = m_window->findChild<QMenu*>(u"mnuDatei"_s);
+        emit menu->hovered(action(u"mnuPurge"_s));
+        QCOMPARE(label(u"lblstatus"_s), u"noch nicht verfügbar"_s);
+    }
+
+    void contextMenuOpensOnTheRightButtonAndHidesOnAClick() {
+        auto* menu = m_window->findChild<QWidget*>(u"kontextmenue"_s);
+        const QPoint point = list()->visualRect(list()->model()->index(2, 0)).center();
+        QTest::mouseClick(list()->viewport(), Qt::RightButton, {}, point);
+        QVERIFY(menu->isVisible());
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, point);
+        QVERIFY(!menu->isVisible());
+    }
+
+    void repairSplitsAFileThatLostItsLineEnds() {
+        writeFile(m_file, "eins\nzwei\ndrei\n");
+        m_window->startUp({m_file});
+        QCOMPARE(doc().count(), 1);
+        m_answer = Dialogs::Answer::No; // keep the file as it is on disk
+        QStringList asked;
+        Dialogs::setHandler([&](const Dialogs::Request& r) {
+            asked.append(r.text);
+            return Dialogs::Reply{r.kind == Dialogs::Kind::Warning ? Dialogs::Answer::Ok : Dialogs::Answer::No, {}};
+        });
+        action(u"mnuReparieren"_s)->trigger();
+        QCOMPARE(doc().lines(), QStringList({u"eins"_s, u"zwei"_s, u"drei"_s}));
+        QCOMPARE(asked.first(), u"Wollen Sie die Datei %1 vorher speichern ?"_s.arg(m_file));
+        QVERIFY(asked.last().startsWith(u"Bitte wenden Sie diese Funktion nur auf einen Text an"_s));
+    }
+
+    void colourSchemeSurvivesARestart() {
+        auto* swatch = m_window->findChild<QAbstractButton*>(u"schwarz"_s);
+        QVERIFY(swatch);
+        action(u"mnuFarben"_s)->trigger();
+        swatch->click();
+        QCOMPARE(label(u"lbl_schwarzweissblau"_s), u"schwarz"_s);
+        m_answer = Dialogs::Answer::No;
+        QVERIFY(m_window->close());
+        QCOMPARE(settingValue(Setting::LblSchwarzweissblau), u"schwarz"_s);
+
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({});
+        QCOMPARE(label(u"lbl_schwarzweissblau"_s), u"schwarz"_s);
+        QCOMPARE(list()->palette().color(QPalette::Base), QColor(Qt::black));
+        setSettingValue(Setting::LblSchwarzweissblau, u"weiss"_s);
+    }
+
+    void missingTemporaryFolderOpensItsFrameAtStart() {
+        setSettingValue(Setting::TxtTempdir, m_dir.filePath(u"gibt-es-nicht"_s));
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({});
+        m_window->show();
+        auto* frame = m_window->findChild<QWidget*>(u"Tempdir"_s);
+        QVERIFY(frame->isVisible());
+        QVERIFY(label(u"lbl_TempDirCheck"_s).startsWith(u"Das angegebene Verzeichnis existiert nicht !"_s));
+        setSettingValue(Setting::TxtTempdir, QDir::tempPath());
+    }
+
+    void resetRemovesTheStoredSettings() {
+        QVERIFY(setSettingValue(Setting::Codepage, u"windows-1250"_s));
+        m_answer = Dialogs::Answer::Yes;
+        click(u"cmd_RegDelTree"_s);
+        QCOMPARE(m_asked.last(), u"Programm-Einstellungen löschen ?"_s);
+        QCOMPARE(settingValue(Setting::Codepage), u"windows-1252"_s);
+    }
+
+    void searchDialogOpensFromTheMenu() {
+        action(u"mnuSuchen"_s)->trigger();
+        auto* dialog = m_window->findChild<QWidget*>(u"frm_such"_s);
+        QVERIFY(dialog && dialog->isVisible());
     }
 
     void closingAsksAndSaves() {
