@@ -1,5 +1,7 @@
 #include "ui/colourpanel.h"
 
+#include "ui/panelheader.h"
+
 #include "settings/colourschemes.h"
 
 #include <QColor>
@@ -41,21 +43,9 @@ ColourPanel::ColourPanel(QWidget* parent) : QFrame(parent), m_schemeLabel(new QL
     m_schemeLabel->setObjectName(u"lbl_schwarzweissblau"_s);
     m_schemeLabel->hide();
 
-    auto* title = new QLabel(tr("Farben einstellen"), this);
-    QFont bold = title->font();
-    bold.setBold(true);
-    title->setFont(bold);
     auto* close = new QPushButton(tr("Schließen"), this);
     close->setObjectName(u"cmd_farben_schliessen"_s);
-    connect(close, &QPushButton::clicked, this, [this] {
-        hide();
-        emit closeRequested();
-    });
-
-    auto* header = new QHBoxLayout;
-    header->addWidget(title);
-    header->addStretch();
-    header->addWidget(close);
+    auto* header = makePanelHeader(this, tr("Farben einstellen"), close, [this] { emit closeRequested(); });
 
     auto* swatches = new QHBoxLayout;
     for (const QString& name : colourSchemeNames()) {

@@ -1,5 +1,7 @@
 #include "ui/filechooserpanel.h"
 
+#include "ui/panelheader.h"
+
 #include "common/drives.h"
 #include "common/pathseparators.h"
 #include "common/pathsplit.h"
@@ -41,14 +43,6 @@ bool isReadableFolder(const QFileInfo& info) {
     // Listing a folder needs the right to read it and to pass through it.
     return info.isReadable() && info.isExecutable();
 #endif
-}
-
-QLabel* boldLabel(const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
 }
 
 } // namespace
@@ -114,10 +108,7 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
     auto* close = new QPushButton(tr("Schließen"), this);
     close->setObjectName(u"cmd_dateiauswahl_schliessen"_s);
 
-    auto* header = new QHBoxLayout;
-    header->addWidget(boldLabel(tr("Dateiauswahl"), this));
-    header->addStretch();
-    header->addWidget(close);
+    auto* header = makePanelHeader(this, tr("Dateiauswahl"), close, [this] { emit closeRequested(); });
 
     auto* driveRow = new QHBoxLayout;
     driveRow->addWidget(new QLabel(tr("Laufwerk:"), this));
@@ -159,10 +150,6 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
             [this](const QString& text) { m_saveAs->setEnabled(!text.trimmed().isEmpty()); });
     connect(m_saveName, &QLineEdit::returnPressed, this, &FileChooserPanel::requestSaveCopy);
     connect(m_saveAs, &QPushButton::clicked, this, &FileChooserPanel::requestSaveAs);
-    connect(close, &QPushButton::clicked, this, [this] {
-        hide();
-        emit closeRequested();
-    });
 
     fillDrives();
     applyPattern();

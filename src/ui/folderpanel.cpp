@@ -1,5 +1,7 @@
 #include "ui/folderpanel.h"
 
+#include "ui/panelheader.h"
+
 #include "ui/statushints.h"
 
 #include <QClipboard>
@@ -42,15 +44,7 @@ FolderPanel::FolderPanel(QWidget* parent)
     m_copy->setEnabled(false);
     m_close->setObjectName(u"cmd_exit_sp"_s);
 
-    auto* title = new QLabel(tr("Datei Browser"), this);
-    QFont bold = title->font();
-    bold.setBold(true);
-    title->setFont(bold);
-
-    auto* header = new QHBoxLayout;
-    header->addWidget(title);
-    header->addStretch();
-    header->addWidget(m_close);
+    auto* header = makePanelHeader(this, tr("Datei Browser"), m_close, [this] { emit closeRequested(); });
 
     auto* footer = new QHBoxLayout;
     footer->addWidget(m_chosen, 1);
@@ -68,10 +62,6 @@ FolderPanel::FolderPanel(QWidget* parent)
             m_tree->scrollTo(m_tree->currentIndex(), QAbstractItemView::PositionAtCenter);
     });
     connect(m_copy, &QPushButton::clicked, this, &FolderPanel::copyChosenFolder);
-    connect(m_close, &QPushButton::clicked, this, [this] {
-        hide();
-        emit closeRequested();
-    });
 }
 
 void FolderPanel::registerHints(StatusHints& hints) {

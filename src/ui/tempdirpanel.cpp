@@ -1,5 +1,7 @@
 #include "ui/tempdirpanel.h"
 
+#include "ui/panelheader.h"
+
 #include "settings/tempdircheck.h"
 #include "settings/trailingseparator.h"
 
@@ -32,21 +34,9 @@ TempDirPanel::TempDirPanel(QWidget* parent)
     m_info->setMinimumHeight(4 * fontMetrics().lineSpacing());
     m_entry->setMinimumWidth(60 * fontMetrics().averageCharWidth());
 
-    auto* title = new QLabel(tr("Temp. Verzeichnis"), this);
-    QFont bold = title->font();
-    bold.setBold(true);
-    title->setFont(bold);
     auto* close = new QPushButton(tr("Schließen"), this);
     close->setObjectName(u"cmd_tempdir_schliessen"_s);
-    connect(close, &QPushButton::clicked, this, [this] {
-        hide();
-        emit closeRequested();
-    });
-
-    auto* header = new QHBoxLayout;
-    header->addWidget(title);
-    header->addStretch();
-    header->addWidget(close);
+    auto* header = makePanelHeader(this, tr("Temp. Verzeichnis"), close, [this] { emit closeRequested(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(header);
