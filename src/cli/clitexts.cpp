@@ -13,7 +13,9 @@ const QString kCommonOptions = u"Gemeinsame Optionen:\n"
                                "                   (Vorgabe: Einstellung \"Codepage\", sonst windows-1252;\n"
                                "                   erzwingt die Codepage auch für UTF-8-Dateien)\n"
                                "  -i, --in-place   Ergebnis atomar in DATEI zurückschreiben statt auf stdout\n"
-                               "  -o DATEI         Ergebnis atomar in DATEI schreiben\n"_s;
+                               "  -o DATEI         Ergebnis atomar in DATEI schreiben\n"
+                               "  --kb DATEI       Wissensdatei statt der des Datenordners\n"
+                               "  --data ORDNER    Ordner der Dateien neben dem Programm\n"_s;
 
 const QHash<QString, QString>& commandTexts() {
     static const QHash<QString, QString> texts = {
@@ -34,6 +36,12 @@ const QHash<QString, QString>& commandTexts() {
         {u"repair"_s, u"quenfor-cli repair DATEI\n  \"fragmentierten Unix Text reparieren\": trennt Text mit "
                       u"LF-Zeilenenden wieder in\n"
                       "  Zeilen. Eine Datei mit CR LF erhält dabei nach jeder Zeile eine Leerzeile.\n"_s},
+        {u"categories"_s, u"quenfor-cli categories DATEI\n  \"nach Kategorien sortieren\": Optionszeilen in 31 "
+                          u"Abschnitte nach Themen, danach\n"
+                          "  alle nicht zugeordneten Zeilen; doppelte Einträge werden dabei gelöscht.\n"_s},
+        {u"explain"_s, u"quenfor-cli explain [--kb DATEI] [--data ORDNER] ZEILE\n  Gibt aus, was der Erklär-Bär zu "
+                       u"ZEILE als Eingabezeile "
+                       "zeigt (Vorgabe:\n  config_opts.txt im Datenordner des Programms).\n"_s},
         {u"kinds"_s, u"quenfor-cli kinds DATEI\n  Gibt für jede Zeile ihre Nummer, einen Tabulator und ihre Art aus\n"
                      "  (mapkey, continuation, comment, favorite, option, blank).\n"_s},
         {u"family"_s,
@@ -53,9 +61,9 @@ QString overviewHelp() {
            "Aufruf:\n  quenfor-cli BEFEHL [OPTIONEN] [ARGUMENTE]\n  quenfor-cli --help | BEFEHL --help\n"
            "  quenfor-cli --version\n\n"
            "Dokument-Befehle (DATEI oder - für stdin; Ergebnis auf stdout, mit -i oder -o in eine Datei):\n"
-           "  cat, blank, dedupe, sort, lower, repair\n\n"
+           "  cat, blank, dedupe, sort, lower, repair, categories\n\n"
            "Abfragen (UTF-8, eine Angabe je Zeile):\n"
-           "  kinds, family, split-mapkey\n\n"_s +
+           "  kinds, family, split-mapkey, explain\n\n"_s +
            kCommonOptions +
            u"\nRückgabewert: 0 erledigt, 1 nicht möglich (Meldung auf stderr), 2 Aufruf fehlerhaft.\n"_s;
 }

@@ -2,6 +2,8 @@
 
 #include "document/cleanuptools.h"
 #include "document/documentfile.h"
+#include "knowledge/categories.h"
+#include "knowledge/categorysort.h"
 #include "settings/mainsettings.h"
 
 #include <QFile>
@@ -13,7 +15,8 @@ namespace quenfor::cli {
 
 namespace {
 
-const QStringList kDocumentCommands = {u"cat"_s, u"blank"_s, u"dedupe"_s, u"sort"_s, u"lower"_s, u"repair"_s};
+const QStringList kDocumentCommands = {u"cat"_s,   u"blank"_s,  u"dedupe"_s,    u"sort"_s,
+                                       u"lower"_s, u"repair"_s, u"categories"_s};
 
 struct Input {
     ReadResult read;
@@ -106,6 +109,8 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
                            : u"Beim Sortieren entfällt die zuerst einsortierte Zeile: %1"_s.arg(*dropped));
     } else if (cmd == u"lower") {
         lines = lowerCaseLines(lines);
+    } else if (cmd == u"categories") {
+        lines = sortByCategory(lines, CategoryTable::builtIn());
     } else if (cmd == u"repair") {
         const QString text = decodeText(input.bytes, {effectiveCodepage(args), args.codepage.has_value()});
         lines = repairFragmentedText(text, lines.size());

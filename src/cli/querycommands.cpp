@@ -1,10 +1,14 @@
 #include "cli/commands.h"
 
+#include "common/pathsplit.h"
+#include "common/programfolders.h"
 #include "document/configdocument.h"
 #include "document/documentfile.h"
+#include "document/documentsearch.h"
 #include "document/filefamily.h"
 #include "document/linekind.h"
 #include "document/mapkeysplitter.h"
+#include "knowledge/explanation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,10 +67,29 @@ int printMapkeySplit(const CliArgs& args, const CliStreams& io) {
     return kOk;
 }
 
+int printExplanation(const CliArgs& args, const CliStreams& io) {
+    if (args.positional.size() != 1)
+        return usage(io, u"explain [--kb DATEI] ZEILE"_s);
+    const QString dataFolder = args.dataDir.value_or(programDataFolder());
+    const QString knowledgeBase = args.kbFile.value_or(joinFolderAndName(dataFolder, u"config_opts.txt"));
+    const Explanation explanation =
+        explainEntryLine(args.positional.front(), knowledgeBase, {effectiveCodepage(args), args.codepage.has_value()});
+    if (explanation.knowledgeBaseMissing) {
+        io.message(QString::fromUtf16(kKnowledgeBaseMissing));
+        return kFailed;
+    }
+    if (!explanation.error.isEmpty()) {
+        io.message(explanation.error);
+        return kFailed;
+    }
+    io.print(explanation.text + u'\n');
+    return kOk;
+}
+
 } // namespace
 
 bool isQueryCommand(const QString& command) {
-    return command == u"kinds" || command == u"family" || command == u"split-mapkey";
+    return command == u"kinds" || command == u"family" || command == u"split-mapkey" || command == u"explain";
 }
 
 int runQueryCommand(const CliArgs& args, const CliStreams& io) {
@@ -74,6 +97,8 @@ int runQueryCommand(const CliArgs& args, const CliStreams& io) {
         return printKinds(args, io);
     if (args.command == u"family")
         return printFamily(args, io);
+    if (args.command == u"explain")
+        return printExplanation(args, io);
     return printMapkeySplit(args, io);
 }
 

@@ -300,10 +300,14 @@ ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice)
     return result;
 }
 
+TextEncoding encodingOf(QByteArrayView bytes, const EncodingChoice& choice) {
+    return chooseEncoding(startsWithMark(bytes), isValidUtf8(bytes.data(), bytes.size()),
+                          hasNonAscii(bytes.data(), bytes.size()), choice);
+}
+
 QString decodeText(QByteArrayView bytes, const EncodingChoice& choice, TextEncoding* used) {
     const bool mark = startsWithMark(bytes);
-    const TextEncoding encoding =
-        chooseEncoding(mark, isValidUtf8(bytes.data(), bytes.size()), hasNonAscii(bytes.data(), bytes.size()), choice);
+    const TextEncoding encoding = encodingOf(bytes, choice);
     if (used)
         *used = encoding;
     const auto codec = LineCodec::create(encoding, nullptr);

@@ -27,6 +27,9 @@ struct ReadResult {
 ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice);
 ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice);
 
+// The encoding the reading rule picks for these bytes.
+TextEncoding encodingOf(QByteArrayView bytes, const EncodingChoice& choice);
+
 // The whole text of some bytes, decoded by the same rule, line ends included (the repair works
 // on the text as it stands in the file).
 QString decodeText(QByteArrayView bytes, const EncodingChoice& choice, TextEncoding* used = nullptr);

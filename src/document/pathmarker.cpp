@@ -27,3 +27,19 @@ PathMarker pathMarkerFor(QStringView line) {
 }
 
 } // namespace quenfor
+
+namespace quenfor {
+
+QString optionValueFolder(QStringView line) {
+    const QStringView trimmed = line.trimmed();
+    const qsizetype blank = trimmed.indexOf(u' ');
+    if (blank < 0)
+        return {};
+    QStringView value = trimmed.mid(blank + 1).trimmed();
+    if (value.size() >= 2 && value.startsWith(u'"') && value.endsWith(u'"'))
+        value = value.mid(1, value.size() - 2);
+    const QString folder = value.toString();
+    return !folder.isEmpty() && folderExists(folder) ? folder : QString();
+}
+
+} // namespace quenfor

@@ -19,4 +19,8 @@ QString pathOfLine(QStringView line);
 
 PathMarker pathMarkerFor(QStringView line);
 
+// The value of an option line when it names an existing folder ("pro_library_dir C:\lib"),
+// for the small path display beside the explanation; empty otherwise.
+QString optionValueFolder(QStringView line);
+
 } // namespace quenfor

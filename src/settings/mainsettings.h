@@ -13,6 +13,7 @@ enum class Setting {
     TxtTempdir,          // temporary folder, ending in a separator
     LblSchwarzweissblau, // colour scheme: "schwarz", "weiss" or "blau"
     Codepage,            // code page of the configuration files
+    ChkErklaerbaer,      // "1": every clicked line is explained at once
 };
 
 struct SettingDefinition {

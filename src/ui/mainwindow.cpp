@@ -36,7 +36,6 @@ const QStringList kNotYetAvailable = {
     u"mnuVorschlag"_s,
     u"mnuSearchPro"_s,
     u"mnuFavoriten"_s,
-    u"mnuKategorien"_s,
     u"mnuMapkeysAuflisten"_s,
     u"mnuErsetzen"_s,
     u"mnuModellInZeichnung"_s,
@@ -54,8 +53,8 @@ const QStringList kNotYetAvailable = {
     u"mnuTextEditor"_s,
     u"mnuUeber"_s,
 };
-const QStringList kButtonsNotYetAvailable = {u"imgPurge"_s,         u"cmd_Textedi"_s, u"Image10"_s,
-                                             u"cmd_searchprogen"_s, u"cmd_Color"_s,   u"cmdAlle"_s};
+const QStringList kButtonsNotYetAvailable = {u"imgPurge"_s, u"cmd_Textedi"_s, u"Image10"_s, u"cmd_searchprogen"_s,
+                                             u"cmd_Color"_s};
 
 QLabel* makeLabel(const QString& name, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -93,6 +92,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     connectEditing();
     connectTools();
     connectPanels();
+    connectKnowledge();
     showMarked(-1);
 }
 

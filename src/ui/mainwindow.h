@@ -15,6 +15,7 @@ class ConfigDocument;
 class ContextMenuPanel;
 class DocumentListView;
 class EntryLinePanel;
+class ExplanationPanel;
 class FileChooserPanel;
 class FolderPanel;
 class PickerPanel;
@@ -50,6 +51,14 @@ private:
     void connectEditing();
     void connectTools();
     void connectPanels();
+    void connectKnowledge();
+
+    // Option knowledge
+    void explainEntryLine();
+    void pickerEntryClicked(const QString& text);
+    void takeOverSelection(const QString& pickerList);
+    void showKnowledgeSearch();
+    void sortByCategory(const QString& refusal);
 
     // Panels
     void showCentre(QWidget* page);
@@ -91,10 +100,11 @@ private:
     ContextMenuPanel* m_contextMenu = nullptr;
     QStackedWidget* m_centre = nullptr;
     QPointer<SearchDialog> m_searchDialog;
-    FileChooserPanel* m_chooser = nullptr; // Dateiauswahl
-    FolderPanel* m_folders = nullptr;      // frameDir
-    TempDirPanel* m_tempDir = nullptr;     // Tempdir
-    ColourPanel* m_colours = nullptr;      // Farben
+    FileChooserPanel* m_chooser = nullptr;    // Dateiauswahl
+    FolderPanel* m_folders = nullptr;         // frameDir
+    TempDirPanel* m_tempDir = nullptr;        // Tempdir
+    ColourPanel* m_colours = nullptr;         // Farben
+    QPointer<ExplanationPanel> m_explanation; // frmErklaer, made on the first explanation
 };
 
 } // namespace quenfor

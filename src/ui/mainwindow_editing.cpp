@@ -21,6 +21,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QCheckBox>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
@@ -123,6 +124,8 @@ void MainWindow::lineClicked(int row) {
     m_pathNotValid->setVisible(marker.state == PathMarker::State::Missing);
     m_pathOk->setText(marker.text);
     m_pathNotValid->setText(marker.text);
+    if (m_picker->explainCheck()->isChecked())
+        explainEntryLine();
 }
 
 void MainWindow::entryChanged(const QString& text) {
