@@ -161,6 +161,25 @@ TEST_F(CliTest, ErrorsAndUsage) {
     EXPECT_TRUE(run({u"--version"_s}).out.startsWith("quenfor-cli "));
 }
 
+TEST_F(CliTest, ExplainAndCategories) {
+    const QString kb = write(u"kb.txt"_s, "trail_dir  Pfad\r\n  Ordner f\xC3\xBCr Trail-Dateien.\r\n");
+    const CliRun r = run({u"explain"_s, u"--kb"_s, kb, u"trail_dir  C:\\temp"_s});
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_EQ(QString::fromUtf8(r.out), u"*** Erklärung zur Option: ***\ntrail_dir  Pfad\n  Ordner für Trail-Dateien.\n"
+                                        "  Ordner für Trail-Dateien.\n  Ordner für Trail-Dateien.\n"
+                                        "  Ordner für Trail-Dateien.\n  Ordner für Trail-Dateien.\n ...\n"_s);
+    const CliRun missing = run({u"explain"_s, u"--kb"_s, path(u"fehlt.txt"_s), u"trail_dir x"_s});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_TRUE(missing.err.startsWith(u"Die Konfigurations-Datei nicht gefunden !"_s));
+
+    const CliRun sorted = run({u"categories"_s, write(u"c.pro"_s, "mapkey a b\r\ngrid_snap yes\r\n")});
+    EXPECT_EQ(sorted.status, 0);
+    const QList<QByteArray> lines = sorted.out.split('\n');
+    EXPECT_EQ(lines.first(), "! Anwendung -----------------------\r");
+    EXPECT_TRUE(sorted.out.contains("! Skizzierer -----------------------\r\ngrid_snap yes\r\n"));
+    EXPECT_TRUE(sorted.out.endsWith("! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------\r\nmapkey a b\r\n"));
+}
+
 TEST_F(CliTest, ForcedCodepageReadsUtf8AsBytes) {
     const QByteArray file = "\xEF\xBB\xBFopt \xC3\xBC\r\n";
     const QString name = write(u"f.pro"_s, file);
