@@ -3,6 +3,12 @@
 #include "cli/cliargs.h"
 #include "cli/clitexts.h"
 #include "cli/commands.h"
+#include "cli/editcommands.h"
+#include "cli/mapkeycommands.h"
+#include "cli/proposalcommands.h"
+#include "cli/searchprocommands.h"
+
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +22,23 @@ void CliStreams::message(const QString& text) const {
     err.write(text.toUtf8());
     err.write("\n");
 }
+
+namespace {
+
+using Runner = int (*)(const CliArgs&, const CliStreams&);
+
+// The generators and mapkey tools, each in a file of its own.
+const QHash<QString, Runner>& toolCommands() {
+    static const QHash<QString, Runner> commands = {
+        {u"mapkeys"_s, runMapkeysCommand},     {u"mapkey-dups"_s, runMapkeyDupsCommand},
+        {u"favorite"_s, runFavoriteCommand},   {u"replace"_s, runReplaceCommand},
+        {u"proposal"_s, runProposalCommand},   {u"ghost"_s, runGhostCommand},
+        {u"searchpro"_s, runSearchProCommand},
+    };
+    return commands;
+}
+
+} // namespace
 
 int runCli(const QStringList& argList, const CliStreams& io) {
     CliArgs args;
@@ -44,6 +67,8 @@ int runCli(const QStringList& argList, const CliStreams& io) {
         return runDocumentCommand(args, io);
     if (isQueryCommand(args.command))
         return runQueryCommand(args, io);
+    if (const Runner run = toolCommands().value(args.command))
+        return run(args, io);
     io.message(u"Unbekannter Befehl: %1 (quenfor-cli --help zeigt alle Befehle)"_s.arg(args.command));
     return kUsage;
 }

@@ -1,5 +1,10 @@
 #include "cli/clitexts.h"
 
+#include "cli/editcommands.h"
+#include "cli/mapkeycommands.h"
+#include "cli/proposalcommands.h"
+#include "cli/searchprocommands.h"
+
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -61,18 +66,26 @@ QString overviewHelp() {
            "Aufruf:\n  quenfor-cli BEFEHL [OPTIONEN] [ARGUMENTE]\n  quenfor-cli --help | BEFEHL --help\n"
            "  quenfor-cli --version\n\n"
            "Dokument-Befehle (DATEI oder - für stdin; Ergebnis auf stdout, mit -i oder -o in eine Datei):\n"
-           "  cat, blank, dedupe, sort, lower, repair, categories\n\n"
+           "  cat, blank, dedupe, sort, lower, repair, categories, replace, proposal, ghost, searchpro\n\n"
            "Abfragen (UTF-8, eine Angabe je Zeile):\n"
-           "  kinds, family, split-mapkey, explain\n\n"_s +
+           "  kinds, family, split-mapkey, explain, mapkeys, mapkey-dups, favorite\n\n"_s +
            kCommonOptions +
            u"\nRückgabewert: 0 erledigt, 1 nicht möglich (Meldung auf stderr), 2 Aufruf fehlerhaft.\n"_s;
 }
 
 QString commandHelp(const QString& command) {
-    const auto it = commandTexts().constFind(command);
-    if (it == commandTexts().constEnd())
+    QString text = commandTexts().value(command);
+    if (text.isEmpty())
+        text = mapkeyCommandHelp(command);
+    if (text.isEmpty())
+        text = editCommandHelp(command);
+    if (text.isEmpty())
+        text = proposalCommandHelp(command);
+    if (text.isEmpty() && command == u"searchpro")
+        text = searchProCommandHelp();
+    if (text.isEmpty())
         return {};
-    return *it + u'\n' + kCommonOptions;
+    return text + u'\n' + kCommonOptions;
 }
 
 } // namespace quenfor::cli

@@ -13,7 +13,4 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io);
 bool isQueryCommand(const QString& command);
 int runQueryCommand(const CliArgs& args, const CliStreams& io);
 
-// The code page for files that are not UTF-8: --codepage, else the stored setting.
-QString effectiveCodepage(const CliArgs& args);
-
 } // namespace quenfor::cli

@@ -1,12 +1,12 @@
 #include "cli/commands.h"
+#include "cli/documentio.h"
+#include "common/wholefile.h"
 
 #include "document/cleanuptools.h"
 #include "document/documentfile.h"
 #include "knowledge/categories.h"
 #include "knowledge/categorysort.h"
-#include "settings/mainsettings.h"
 
-#include <QFile>
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
@@ -18,70 +18,15 @@ namespace {
 const QStringList kDocumentCommands = {u"cat"_s,   u"blank"_s,  u"dedupe"_s,    u"sort"_s,
                                        u"lower"_s, u"repair"_s, u"categories"_s};
 
-struct Input {
-    ReadResult read;
-    QByteArray bytes; // kept only where the tool needs the raw file (repair)
-};
-
-bool readInput(const QString& file, const CliArgs& args, const CliStreams& io, bool keepBytes, Input& input) {
-    EncodingChoice choice;
-    choice.codepage = effectiveCodepage(args);
-    choice.force = args.codepage.has_value();
-    if (file == u"-") {
-        input.bytes = io.in.readAll();
-        input.read = readDocumentBytes(input.bytes, choice);
-    } else {
-        input.read = readDocumentFile(file, choice);
-        if (input.read.ok && keepBytes) {
-            QFile f(file);
-            if (f.open(QIODevice::ReadOnly))
-                input.bytes = f.readAll();
-        }
-    }
-    if (!input.read.ok) {
-        io.message(input.read.error);
-        return false;
-    }
-    if (!keepBytes)
-        input.bytes.clear();
-    return true;
-}
-
-int writeOutput(const QString& file, const CliArgs& args, const CliStreams& io, const QStringList& lines,
-                const TextEncoding& encoding) {
-    WriteResult result;
-    if (args.inPlace)
-        result = writeDocumentFile(file, lines, encoding);
-    else if (args.outFile)
-        result = writeDocumentFile(*args.outFile, lines, encoding);
-    else
-        result = writeDocument(io.out, lines, encoding);
-    if (!result.ok) {
-        io.message(result.error);
-        return kFailed;
-    }
-    if (const QString warning = result.warning(encoding); !warning.isEmpty())
-        io.message(warning);
-    return kOk;
-}
-
 } // namespace
-
-QString effectiveCodepage(const CliArgs& args) {
-    if (args.codepage)
-        return *args.codepage;
-    return settingValue(Setting::Codepage);
-}
 
 bool isDocumentCommand(const QString& command) {
     return kDocumentCommands.contains(command);
 }
 
 int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
-    if (args.positional.size() != 1 || !args.flags.isEmpty()) {
-        io.message(u"Aufruf: quenfor-cli %1 [OPTIONEN] DATEI"_s.arg(args.command));
-        return kUsage;
-    }
+    if (args.positional.size() != 1 || !args.flags.isEmpty())
+        return usage(io, u"%1 [OPTIONEN] DATEI"_s.arg(args.command));
     const QString file = args.positional.front();
     if (args.inPlace && file == u"-") {
         io.message(u"-i geht nicht mit der Standardeingabe."_s);
@@ -89,10 +34,22 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
     }
 
     const QString& cmd = args.command;
-    Input input;
-    if (!readInput(file, args, io, cmd == u"repair", input))
+    // The repair needs the raw text as it stands in the file, line ends included.
+    QByteArray raw;
+    ReadResult read;
+    if (cmd == u"repair" && file == u"-") {
+        raw = io.in.readAll();
+        read = readDocumentBytes(raw, encodingChoiceFor(args));
+        if (!read.ok)
+            io.message(read.error);
+    } else {
+        read = readInput(file, args, io);
+        if (cmd == u"repair")
+            raw = readWholeFile(file);
+    }
+    if (!read.ok)
         return kFailed;
-    QStringList lines = std::move(input.read.lines);
+    QStringList lines = std::move(read.lines);
 
     if (cmd == u"blank") {
         lines = removeBlankLines(lines);
@@ -112,10 +69,9 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
     } else if (cmd == u"categories") {
         lines = sortByCategory(lines, CategoryTable::builtIn());
     } else if (cmd == u"repair") {
-        const QString text = decodeText(input.bytes, {effectiveCodepage(args), args.codepage.has_value()});
-        lines = repairFragmentedText(text, lines.size());
+        lines = repairFragmentedText(decodeText(raw, encodingChoiceFor(args)), lines.size());
     }
-    const int status = writeOutput(file, args, io, lines, input.read.encoding);
+    const int status = writeOutput(file, args, io, lines, read.encoding);
     // Freeing a million strings one by one takes longer than the whole save; the process ends
     // right after this, and the system takes the memory back at once.
     static QStringList* const kept = new QStringList;

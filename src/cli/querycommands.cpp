@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "cli/documentio.h"
 
 #include "common/pathsplit.h"
 #include "common/programfolders.h"
@@ -16,21 +17,13 @@ namespace quenfor::cli {
 
 namespace {
 
-int usage(const CliStreams& io, const QString& synopsis) {
-    io.message(u"Aufruf: quenfor-cli "_s + synopsis);
-    return kUsage;
-}
-
 int printKinds(const CliArgs& args, const CliStreams& io) {
     if (args.positional.size() != 1)
         return usage(io, u"kinds DATEI"_s);
     const QString& file = args.positional.front();
-    EncodingChoice choice{effectiveCodepage(args), args.codepage.has_value()};
-    const ReadResult read = file == u"-" ? readDocumentBytes(io.in.readAll(), choice) : readDocumentFile(file, choice);
-    if (!read.ok) {
-        io.message(read.error);
+    const ReadResult read = readInput(file, args, io);
+    if (!read.ok)
         return kFailed;
-    }
     QString out;
     for (qsizetype i = 0; i < read.lines.size(); ++i)
         out += QString::number(i) + u'\t' + lineKindName(classifyLine(read.lines[i])) + u'\n';
@@ -72,8 +65,7 @@ int printExplanation(const CliArgs& args, const CliStreams& io) {
         return usage(io, u"explain [--kb DATEI] ZEILE"_s);
     const QString dataFolder = args.dataDir.value_or(programDataFolder());
     const QString knowledgeBase = args.kbFile.value_or(joinFolderAndName(dataFolder, u"config_opts.txt"));
-    const Explanation explanation =
-        explainEntryLine(args.positional.front(), knowledgeBase, {effectiveCodepage(args), args.codepage.has_value()});
+    const Explanation explanation = explainEntryLine(args.positional.front(), knowledgeBase, encodingChoiceFor(args));
     if (explanation.knowledgeBaseMissing) {
         io.message(QString::fromUtf16(kKnowledgeBaseMissing));
         return kFailed;

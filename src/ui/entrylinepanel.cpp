@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace quenfor {
 
 QColor colorFromBgr(int bgr) {
@@ -33,7 +35,9 @@ EntryLinePanel::EntryLinePanel(QWidget* parent)
     m_warning->hide();
     m_warning->installEventFilter(this);
     m_preview->setTextFormat(Qt::PlainText);
-    m_favoriteCheck->hide();
+    m_favoriteCheck->setText(u"☆"_s);
+    m_favoriteCheck->setCursor(Qt::PointingHandCursor);
+    m_favoriteCheck->installEventFilter(this);
 
     m_row->setContentsMargins(0, 0, 0, 0);
     m_row->addWidget(m_entry, 1);
@@ -73,6 +77,8 @@ void EntryLinePanel::showCheck(const EntryLineCheck& check) {
 bool EntryLinePanel::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_warning && event->type() == QEvent::MouseButtonRelease)
         emit warningClicked();
+    if (watched == m_favoriteCheck && event->type() == QEvent::MouseButtonRelease)
+        emit favoriteCheckClicked();
     return QWidget::eventFilter(watched, event);
 }
 

@@ -27,6 +27,7 @@ signals:
     void textEdited(const QString& text);
     void returnPressed();
     void warningClicked();
+    void favoriteCheckClicked();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

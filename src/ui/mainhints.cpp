@@ -1,5 +1,6 @@
 #include "ui/mainhints.h"
 
+#include "knowledge/mapkeytools.h"
 #include "ui/statushints.h"
 
 #include <QHash>
@@ -56,6 +57,9 @@ const QHash<QString, QString>& hintTable() {
                       "der markierten Zeile."_s},
         {u"img_save"_s, u"Speichern"_s},
         {u"img_up"_s, u"Die markierte Zeile eine Zeile nach oben verschieben"_s},
+        {u"img_favocheck"_s, u"Ruft den Favoriten-Konstruktor auf"_s},
+        {u"img_dmapkeys"_s, QString::fromUtf16(kDuplicateMapkeysHint)},
+        {u"cmd_listmapkeys"_s, QString::fromUtf16(kListMapkeysHint)},
         {u"img_zoom_all"_s, u"Das Programm auf seine Standardgröße zoomen"_s},
         {u"Text1"_s, u"Eingabezeile: Zeigt den aktuellen Text der angewählten Zeile an. Texte die in diese Zeile "
                      "eingegeben werden müssen mit >Enter< bestätigt werden um Sie in der Liste zu plazieren."_s},

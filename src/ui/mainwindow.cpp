@@ -4,6 +4,7 @@
 #include "ui/colourpanel.h"
 #include "ui/documentlistview.h"
 #include "ui/entrylinepanel.h"
+#include "ui/favoritespanel.h"
 #include "ui/filechooserpanel.h"
 #include "ui/folderpanel.h"
 #include "ui/mainhints.h"
@@ -30,31 +31,15 @@ namespace {
 
 // Entries and buttons whose tool window comes with a later part of the program.
 const QStringList kNotYetAvailable = {
-    u"mnuNeu"_s,
-    u"mnuPurge"_s,
-    u"mnuDoppelteMapkeys"_s,
-    u"mnuVorschlag"_s,
-    u"mnuSearchPro"_s,
-    u"mnuFavoriten"_s,
-    u"mnuMapkeysAuflisten"_s,
-    u"mnuErsetzen"_s,
-    u"mnuModellInZeichnung"_s,
-    u"mnuMapkeyGenerator"_s,
-    u"mnuDrFegel"_s,
-    u"mnuFarbBox"_s,
-    u"mnuArbeitszeit"_s,
-    u"mnuAscii"_s,
-    u"mnuNetSend"_s,
-    u"mnuPictureViewer"_s,
-    u"mnuPfadUmwandlung"_s,
-    u"mnuShooter"_s,
-    u"mnuInterpolation"_s,
-    u"mnuScreenShot"_s,
-    u"mnuTextEditor"_s,
-    u"mnuUeber"_s,
+    u"mnuPurge"_s,           u"mnuModellInZeichnung"_s,
+    u"mnuMapkeyGenerator"_s, u"mnuDrFegel"_s,
+    u"mnuFarbBox"_s,         u"mnuArbeitszeit"_s,
+    u"mnuAscii"_s,           u"mnuNetSend"_s,
+    u"mnuPictureViewer"_s,   u"mnuShooter"_s,
+    u"mnuInterpolation"_s,   u"mnuScreenShot"_s,
+    u"mnuTextEditor"_s,      u"mnuUeber"_s,
 };
-const QStringList kButtonsNotYetAvailable = {u"imgPurge"_s, u"cmd_Textedi"_s, u"Image10"_s, u"cmd_searchprogen"_s,
-                                             u"cmd_Color"_s};
+const QStringList kButtonsNotYetAvailable = {u"imgPurge"_s, u"cmd_Textedi"_s, u"Image10"_s, u"cmd_Color"_s};
 
 QLabel* makeLabel(const QString& name, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -93,6 +78,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     connectTools();
     connectPanels();
     connectKnowledge();
+    connectGenerators();
     showMarked(-1);
 }
 
@@ -121,6 +107,8 @@ void MainWindow::buildLayout() {
     m_tempDir->hide();
     m_colours = new ColourPanel(central);
     m_colours->hide();
+    m_favorites = new FavoritesPanel(central);
+    m_favorites->hide();
 
     auto* middle = new QHBoxLayout;
     middle->addWidget(m_tools);
@@ -133,6 +121,7 @@ void MainWindow::buildLayout() {
     layout->addWidget(m_entry);
     layout->addWidget(m_tempDir);
     layout->addWidget(m_colours);
+    layout->addWidget(m_favorites);
     layout->addLayout(middle, 1);
     setCentralWidget(central);
 

@@ -11,6 +11,13 @@ class QStackedWidget;
 namespace quenfor {
 
 class ColourPanel;
+class DuplicateMapkeyWindow;
+class FavoritesPanel;
+class FormOpt;
+class MapkeyListWindow;
+class PathConverterWindow;
+class ReplaceDialog;
+class SearchProWindow;
 class ConfigDocument;
 class ContextMenuPanel;
 class DocumentListView;
@@ -52,9 +59,16 @@ private:
     void connectTools();
     void connectPanels();
     void connectKnowledge();
+    void connectGenerators();
 
     // Option knowledge
     void explainEntryLine();
+    ExplanationPanel* explanationPanel();
+
+    // Generators
+    void openSearchProGenerator();
+    void showSearchProFrame();
+    void addGhostOptions();
     void pickerEntryClicked(const QString& text);
     void takeOverSelection(const QString& pickerList);
     void showKnowledgeSearch();
@@ -105,6 +119,13 @@ private:
     TempDirPanel* m_tempDir = nullptr;        // Tempdir
     ColourPanel* m_colours = nullptr;         // Farben
     QPointer<ExplanationPanel> m_explanation; // frmErklaer, made on the first explanation
+    FavoritesPanel* m_favorites = nullptr;    // Favoriten
+    QPointer<DuplicateMapkeyWindow> m_duplicateMapkeys;
+    QPointer<MapkeyListWindow> m_mapkeyList;
+    QPointer<FormOpt> m_pathOptions;
+    QPointer<SearchProWindow> m_searchPro;
+    QPointer<ReplaceDialog> m_replace;
+    QPointer<PathConverterWindow> m_pathConverter;
 };
 
 } // namespace quenfor

@@ -70,25 +70,28 @@ void MainWindow::explainEntryLine() {
         Dialogs::information(this, explanation.error);
         return;
     }
-    if (!m_explanation) {
-        m_explanation = new ExplanationPanel(this);
-        m_explanation->setAttribute(Qt::WA_DeleteOnClose);
-        m_explanation->registerHints(*m_hints);
-        connect(m_explanation, &ExplanationPanel::okClicked, this,
-                [this] { m_picker->explainCheck()->setChecked(false); });
-        connect(m_explanation, &ExplanationPanel::feedRequested, this, [this](const QString& text) {
-            const AppendResult added = appendKnowledgeRecord(m_picker->knowledgeBasePath(), m_entry->text(), text,
-                                                             {settingValue(Setting::Codepage), false});
-            if (!added.ok) {
-                Dialogs::information(this, added.error);
-                return;
-            }
-            Dialogs::information(this, QString::fromUtf16(kKnowledgeBaseAdded));
-            m_explanation->feedingDone();
-        });
-    }
-    m_explanation->showExplanation(explanation.text);
+    explanationPanel()->showExplanation(explanation.text);
     m_picker->showFolder(explanation.kind == Explanation::Kind::Option ? optionValueFolder(entry) : QString());
+}
+
+ExplanationPanel* MainWindow::explanationPanel() {
+    if (m_explanation)
+        return m_explanation;
+    m_explanation = new ExplanationPanel(this);
+    m_explanation->setAttribute(Qt::WA_DeleteOnClose);
+    m_explanation->registerHints(*m_hints);
+    connect(m_explanation, &ExplanationPanel::okClicked, this, [this] { m_picker->explainCheck()->setChecked(false); });
+    connect(m_explanation, &ExplanationPanel::feedRequested, this, [this](const QString& text) {
+        const AppendResult added = appendKnowledgeRecord(m_picker->knowledgeBasePath(), m_entry->text(), text,
+                                                         {settingValue(Setting::Codepage), false});
+        if (!added.ok) {
+            Dialogs::information(this, added.error);
+            return;
+        }
+        Dialogs::information(this, QString::fromUtf16(kKnowledgeBaseAdded));
+        m_explanation->feedingDone();
+    });
+    return m_explanation;
 }
 
 void MainWindow::pickerEntryClicked(const QString& text) {

@@ -24,6 +24,7 @@ const std::initializer_list<ButtonDefinition> kGroups[] = {
     {{u"Image9", u"+"}, {u"img_comment", u"!"}, {u"Image8", u"✗"}, {u"cmd_delAll", u"∅"}},
     {{u"img_up", u"↑"}, {u"ontop", u"⇈"}, {u"copy", u"❐"}, {u"cut", u"✂"}, {u"paste", u"▤"}},
     {{u"img_Leerzeilen", u"¶"}, {u"img_doppelte", u"=="}, {u"img_alphabet", u"AZ"}, {u"img_grossklein", u"Aa"}},
+    {{u"img_vorschlag", u"★"}, {u"img_dmapkeys", u"⌨="}, {u"cmd_listmapkeys", u"⌨"}},
     {{u"img_save", u""},
      {u"cmd_last", u"↺"},
      {u"cmd_Textedi", u"✎"},

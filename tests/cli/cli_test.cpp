@@ -1,9 +1,6 @@
 // Runs the real quenfor-cli binary on files, as scripts of administrators do.
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
+#include "clitest.h"
 
 #include <unistd.h>
 
@@ -11,43 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct CliRun {
-    int status = -1;
-    QByteArray out;
-    QString err;
-};
-
-class CliTest : public ::testing::Test {
-protected:
-    QTemporaryDir dir;
-
-    QString path(const QString& name) const { return dir.filePath(name); }
-
-    QString write(const QString& name, const QByteArray& bytes) const {
-        QFile f(path(name));
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
-        return f.fileName();
-    }
-
-    static QByteArray read(const QString& file) {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
-
-    CliRun run(const QStringList& args, const QByteArray& input = {}, const QString& locale = u"C.UTF-8"_s) const {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(u"XDG_CONFIG_HOME"_s, dir.filePath(u"config-home"_s)); // no stored Codepage
-        env.insert(u"LC_ALL"_s, locale);
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(QUENFOR_CLI_PATH), args);
-        p.write(input);
-        p.closeWriteChannel();
-        p.waitForFinished(60000);
-        return {p.exitCode(), p.readAllStandardOutput(), QString::fromUtf8(p.readAllStandardError())};
-    }
-};
+class CliTest : public CliTestBase {};
 
 TEST_F(CliTest, CatGivesEveryByteBack) {
     QByteArray all;
