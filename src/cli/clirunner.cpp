@@ -3,9 +3,12 @@
 #include "cli/cliargs.h"
 #include "cli/clitexts.h"
 #include "cli/commands.h"
+#include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
+#include "cli/findcommand.h"
 #include "cli/mapkeycommands.h"
 #include "cli/proposalcommands.h"
+#include "cli/purgecommands.h"
 #include "cli/searchprocommands.h"
 
 #include <QHash>
@@ -27,13 +30,15 @@ namespace {
 
 using Runner = int (*)(const CliArgs&, const CliStreams&);
 
-// The generators and mapkey tools, each in a file of its own.
+// The generators, mapkey tools and file utilities, each in a file of its own.
 const QHash<QString, Runner>& toolCommands() {
     static const QHash<QString, Runner> commands = {
         {u"mapkeys"_s, runMapkeysCommand},     {u"mapkey-dups"_s, runMapkeyDupsCommand},
         {u"favorite"_s, runFavoriteCommand},   {u"replace"_s, runReplaceCommand},
         {u"proposal"_s, runProposalCommand},   {u"ghost"_s, runGhostCommand},
-        {u"searchpro"_s, runSearchProCommand},
+        {u"searchpro"_s, runSearchProCommand}, {u"purge"_s, runPurgeCommand},
+        {u"clean"_s, runCleanCommand},         {u"drwcheck"_s, runDrwCheckCommand},
+        {u"find"_s, runFindCommand},
     };
     return commands;
 }

@@ -1,8 +1,11 @@
 #include "cli/clitexts.h"
 
+#include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
+#include "cli/findcommand.h"
 #include "cli/mapkeycommands.h"
 #include "cli/proposalcommands.h"
+#include "cli/purgecommands.h"
 #include "cli/searchprocommands.h"
 
 #include <QHash>
@@ -68,7 +71,9 @@ QString overviewHelp() {
            "Dokument-Befehle (DATEI oder - für stdin; Ergebnis auf stdout, mit -i oder -o in eine Datei):\n"
            "  cat, blank, dedupe, sort, lower, repair, categories, replace, proposal, ghost, searchpro\n\n"
            "Abfragen (UTF-8, eine Angabe je Zeile):\n"
-           "  kinds, family, split-mapkey, explain, mapkeys, mapkey-dups, favorite\n\n"_s +
+           "  kinds, family, split-mapkey, explain, mapkeys, mapkey-dups, favorite\n\n"
+           "Dateien des CAD-Systems:\n"
+           "  purge, clean, drwcheck, find\n\n"_s +
            kCommonOptions +
            u"\nRückgabewert: 0 erledigt, 1 nicht möglich (Meldung auf stderr), 2 Aufruf fehlerhaft.\n"_s;
 }
@@ -81,8 +86,14 @@ QString commandHelp(const QString& command) {
         text = editCommandHelp(command);
     if (text.isEmpty())
         text = proposalCommandHelp(command);
+    if (text.isEmpty())
+        text = purgeCommandHelp(command);
     if (text.isEmpty() && command == u"searchpro")
         text = searchProCommandHelp();
+    if (text.isEmpty() && command == u"drwcheck")
+        text = drwCheckCommandHelp();
+    if (text.isEmpty() && command == u"find")
+        text = findCommandHelp();
     if (text.isEmpty())
         return {};
     return text + u'\n' + kCommonOptions;

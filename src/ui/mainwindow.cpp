@@ -31,15 +31,10 @@ namespace {
 
 // Entries and buttons whose tool window comes with a later part of the program.
 const QStringList kNotYetAvailable = {
-    u"mnuPurge"_s,           u"mnuModellInZeichnung"_s,
-    u"mnuMapkeyGenerator"_s, u"mnuDrFegel"_s,
-    u"mnuFarbBox"_s,         u"mnuArbeitszeit"_s,
-    u"mnuAscii"_s,           u"mnuNetSend"_s,
-    u"mnuPictureViewer"_s,   u"mnuShooter"_s,
-    u"mnuInterpolation"_s,   u"mnuScreenShot"_s,
-    u"mnuTextEditor"_s,      u"mnuUeber"_s,
+    u"mnuFarbBox"_s, u"mnuArbeitszeit"_s,   u"mnuAscii"_s,      u"mnuNetSend"_s,    u"mnuPictureViewer"_s,
+    u"mnuShooter"_s, u"mnuInterpolation"_s, u"mnuScreenShot"_s, u"mnuTextEditor"_s, u"mnuUeber"_s,
 };
-const QStringList kButtonsNotYetAvailable = {u"imgPurge"_s, u"cmd_Textedi"_s, u"Image10"_s, u"cmd_Color"_s};
+const QStringList kButtonsNotYetAvailable = {u"cmd_Textedi"_s, u"Image10"_s, u"cmd_Color"_s};
 
 QLabel* makeLabel(const QString& name, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -79,6 +74,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     connectPanels();
     connectKnowledge();
     connectGenerators();
+    connectCadFiles();
     showMarked(-1);
 }
 

@@ -11,13 +11,16 @@ class QStackedWidget;
 namespace quenfor {
 
 class ColourPanel;
+class DrawingCheckerWindow;
 class DuplicateMapkeyWindow;
 class FavoritesPanel;
 class FormOpt;
 class MapkeyListWindow;
 class PathConverterWindow;
+class PurgeWindow;
 class ReplaceDialog;
 class SearchProWindow;
+class TastomatWindow;
 class ConfigDocument;
 class ContextMenuPanel;
 class DocumentListView;
@@ -60,6 +63,7 @@ private:
     void connectPanels();
     void connectKnowledge();
     void connectGenerators();
+    void connectCadFiles();
 
     // Option knowledge
     void explainEntryLine();
@@ -126,6 +130,9 @@ private:
     QPointer<SearchProWindow> m_searchPro;
     QPointer<ReplaceDialog> m_replace;
     QPointer<PathConverterWindow> m_pathConverter;
+    QPointer<PurgeWindow> m_purge;
+    QPointer<DrawingCheckerWindow> m_drawingChecker;
+    QPointer<TastomatWindow> m_tastomat;
 };
 
 } // namespace quenfor

@@ -82,6 +82,9 @@ private slots:
             {u"mnuErsetzen", u"frm_ersetz"},
             {u"mnuPfadUmwandlung", u"frmPfadolin"},
             {u"mnuNeu", u"FormOpt"},
+            {u"mnuDrFegel", u"frmPurge"},
+            {u"mnuModellInZeichnung", u"frm_drw_mdl_checker"},
+            {u"mnuMapkeyGenerator", u"frmTastomat"},
         };
         for (const auto& e : entries) {
             QAction* action = m_window->findChild<QAction*>(QString::fromUtf16(e.action));

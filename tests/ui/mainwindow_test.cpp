@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(label(u"Label1"_s), QDir::toNativeSeparators(m_file));
         QCOMPARE(label(u"lblnumber"_s), u"Nr."_s);
         QCOMPARE(settingValue(Setting::Dir1), QDir::toNativeSeparators(m_dir.path()));
-        QVERIFY(!action(u"mnuPurge"_s)->isEnabled()); // its window comes later
+        QVERIFY(!action(u"mnuArbeitszeit"_s)->isEnabled()); // its window comes later
         QVERIFY(action(u"mnuLeerzeilen"_s)->isEnabled());
     }
 
@@ -211,8 +211,8 @@ private slots:
                  QStringList({u"&Info"_s, u"Über+Q+U+E+N+F+O+R+"_s, u"Temp. Verzeichnis"_s}));
 
         // An entry whose tool comes later says so instead of doing nothing.
-        auto* menu = m_window->findChild<QMenu*>(u"mnuDatei"_s);
-        emit menu->hovered(action(u"mnuPurge"_s));
+        auto* menu = m_window->findChild<QMenu*>(u"mnuAllgemein"_s);
+        emit menu->hovered(action(u"mnuArbeitszeit"_s));
         QCOMPARE(label(u"lblstatus"_s), u"noch nicht verfügbar"_s);
     }
 

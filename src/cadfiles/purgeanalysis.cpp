@@ -1,0 +1,214 @@
+#include "cadfiles/purgeanalysis.h"
+
+#include "cadfiles/directorylisting.h"
+#include "common/pathseparators.h"
+#include "common/pathsplit.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor {
+
+QString purgeKey(const QString& fileName) {
+    const PathParts parts = splitPath(fileName);
+    return parts.name + u'.' + parts.extension;
+}
+
+namespace {
+
+bool isAscii(const QString& text) {
+    for (QChar c : text) {
+        if (c.unicode() >= 0x80)
+            return false;
+    }
+    return true;
+}
+
+// Sorts by key, then by the exact name; Key is QByteArray (plain ASCII names, compared byte by
+// byte, which is their code unit order) or QString (any names).
+template <typename Key> void sortByUpperKey(QStringList& names, Key (*upperOf)(const QString&)) {
+    struct Entry {
+        Key key;
+        qsizetype index;
+    };
+    QList<Entry> entries;
+    entries.reserve(names.size());
+    for (qsizetype i = 0; i < names.size(); ++i)
+        entries.append({upperOf(names[i]), i});
+    std::sort(entries.begin(), entries.end(), [&names](const Entry& a, const Entry& b) {
+        if (a.key != b.key)
+            return a.key < b.key;
+        return QString::compare(names[a.index], names[b.index], Qt::CaseSensitive) < 0;
+    });
+    QStringList sorted;
+    sorted.reserve(names.size());
+    for (const Entry& entry : std::as_const(entries))
+        sorted.append(std::move(names[entry.index]));
+    names = std::move(sorted);
+}
+
+QByteArray asciiUpper(const QString& name) {
+    QByteArray key = name.toLatin1();
+    for (char& c : key) {
+        if (c >= 'a' && c <= 'z')
+            c = char(c - 32);
+    }
+    return key;
+}
+
+QString fullUpper(const QString& name) {
+    return name.toUpper();
+}
+
+} // namespace
+
+void sortLikeFileList(QStringList& names) {
+    // Nearly all CAD file names are plain ASCII: their upper-case forms compare as bytes.
+    if (std::all_of(names.cbegin(), names.cend(), isAscii))
+        sortByUpperKey(names, asciiUpper);
+    else
+        sortByUpperKey(names, fullUpper);
+}
+
+namespace {
+
+// A version text read as a single-precision number, as the comparison has always done; nothing
+// for a text that is no finite number.
+std::optional<float> versionNumber(QStringView text) {
+    // Plain digits, the usual version, are read directly: exact as a double up to 15 digits, then
+    // rounded to single precision just as the general reading does.
+    if (!text.isEmpty() && text.size() <= 15) {
+        double value = 0;
+        bool digits = true;
+        for (QChar c : text) {
+            if (c < u'0' || c > u'9') {
+                digits = false;
+                break;
+            }
+            value = value * 10 + (c.unicode() - u'0');
+        }
+        if (digits)
+            return float(value);
+    }
+    bool ok = false;
+    const float value = text.toFloat(&ok);
+    if (!ok || !std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
+// The name split of a file name as views into it, without the allocations of splitPath (this runs
+// for every file of a folder); the randomized test holds it to splitPath.
+struct NameSplit {
+    QStringView name;
+    QStringView extension;
+
+    // name & "." & extension compared as one text, as the key always was.
+    bool sameKey(const NameSplit& other) const {
+        if (name.size() == other.name.size())
+            return name == other.name && extension == other.extension;
+        if (name.size() + extension.size() != other.name.size() + other.extension.size())
+            return false;
+        return QString(name.toString() + u'.').append(extension) ==
+               QString(other.name.toString() + u'.').append(other.extension);
+    }
+};
+
+NameSplit splitName(QStringView path) {
+    QStringView rest = path;
+    if (rest.size() >= 2 && rest[1] == u':')
+        rest = rest.mid(2);
+    qsizetype end = rest.size();
+    qsizetype extensionEnd = end;
+    qsizetype index = end - 1;
+    for (; index >= 0; --index) {
+        const QChar c = rest[index];
+        if (isPathSeparator(c))
+            break;
+        if (c == u'.' && index < end - 1) {
+            extensionEnd = end;
+            end = index;
+        }
+    }
+    return {rest.mid(index + 1, end - index - 1), rest.mid(end, extensionEnd - end)};
+}
+
+} // namespace
+
+QStringList purgeCandidates(const QString& folder, const QStringList& sortedNames) {
+    // Files whose neighbour in the sorted list has the same key: the objects with more than one file.
+    QList<NameSplit> splits;
+    splits.reserve(sortedNames.size());
+    for (const QString& name : sortedNames)
+        splits.append(splitName(name));
+    QList<qsizetype> paired;
+    for (qsizetype i = 1; i < splits.size(); ++i) {
+        if (splits[i].sameKey(splits[i - 1])) {
+            if (paired.isEmpty() || paired.back() != i - 1)
+                paired.append(i - 1);
+            paired.append(i);
+        }
+    }
+    if (paired.size() < 2)
+        return {};
+
+    // The version is read from the full path behind the length of folder & name & extension (no
+    // separator: only the length matters) plus 2. Behind a folder that gets a separator that is
+    // the text after the version's dot; behind a root it starts one character later. The folder
+    // being common to all, equal bases are equal name & extension, so the files are grouped by that.
+    const QString prefix = joinFolderAndName(folder, u"");
+    QStringList paths;
+    paths.reserve(paired.size());
+    for (qsizetype index : std::as_const(paired)) {
+        QString path;
+        path.reserve(prefix.size() + sortedNames[index].size());
+        path.append(prefix).append(sortedNames[index]);
+        paths.append(std::move(path));
+    }
+    // Views into paths, which no longer change.
+    struct Candidate {
+        QStringView base; // name & extension
+        std::optional<float> version;
+    };
+    QList<Candidate> candidates;
+    candidates.reserve(paths.size());
+    QHash<QStringView, float> highest;
+    highest.reserve(paths.size());
+    for (const QString& path : std::as_const(paths)) {
+        const NameSplit split = splitName(path);
+        // Name and extension stand side by side in the path.
+        const QStringView base(split.name.data(), split.name.size() + split.extension.size());
+        const QStringView versionText = QStringView(path).mid(qMin(folder.size() + base.size() + 2, path.size()));
+        const std::optional<float> version = versionNumber(versionText.isEmpty() ? QStringView(u"0") : versionText);
+        if (version) {
+            auto it = highest.find(base);
+            if (it == highest.end())
+                highest.insert(base, *version);
+            else if (*it < *version)
+                *it = *version;
+        }
+        candidates.append({base, version});
+    }
+
+    QStringList purge;
+    for (qsizetype k = 0; k < paths.size(); ++k) {
+        const Candidate& candidate = candidates[k];
+        if (candidate.version && highest.value(candidate.base) > *candidate.version)
+            purge.append(paths[k]);
+    }
+    return purge;
+}
+
+QStringList analyseFolder(const QString& folder) {
+    DirectoryEntries entries = listDirectory(folder);
+    sortLikeFileList(entries.files);
+    return purgeCandidates(folder, entries.files);
+}
+
+} // namespace quenfor

@@ -1,0 +1,138 @@
+#include "cli/findcommand.h"
+
+#include "cadfiles/findfile.h"
+#include "cli/documentio.h"
+#include "common/fileexists.h"
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor::cli {
+
+namespace {
+
+const QString kSynopsis = u"find [--no-subfolders] [--mask N] ORDNER MUSTER"_s;
+
+// Hits are written in blocks: a tree can hold hundreds of thousands of them.
+constexpr qsizetype kFlushSize = 64 * 1024;
+
+bool isInteger(const QString& text) {
+    bool ok = false;
+    text.toLongLong(&ok);
+    return ok;
+}
+
+struct FindOptions {
+    bool inclSubfolders = true;
+    std::optional<QString> mask;
+    QString folder;
+    QString pattern;
+};
+
+// The common parser keeps "--mask" among the flags and its value among the words, or among the
+// flags when it is negative; the synopsis puts the options before ORDNER, so the first word is it.
+std::optional<FindOptions> parseFindOptions(const CliArgs& args) {
+    FindOptions options;
+    QStringList words = args.positional;
+    for (qsizetype i = 0; i < args.flags.size(); ++i) {
+        const QString& flag = args.flags[i];
+        if (flag == u"--no-subfolders") {
+            options.inclSubfolders = false;
+        } else if (flag == u"--mask" || flag.startsWith(u"--mask=")) {
+            if (options.mask)
+                return std::nullopt;
+            if (flag != u"--mask")
+                options.mask = flag.mid(7);
+            else if (i + 1 < args.flags.size() && isInteger(args.flags[i + 1]))
+                options.mask = args.flags[++i];
+            else if (!words.isEmpty())
+                options.mask = words.takeFirst();
+            else
+                return std::nullopt;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (words.size() != 2 || args.inPlace || args.outFile || args.kbFile)
+        return std::nullopt;
+    options.folder = words[0];
+    options.pattern = words[1];
+    return options;
+}
+
+} // namespace
+
+int runFindCommand(const CliArgs& args, const CliStreams& io) {
+    const std::optional<FindOptions> options = parseFindOptions(args);
+    if (!options)
+        return usage(io, kSynopsis);
+
+    cFindFile finder;
+    try {
+        if (options->mask) {
+            bool ok = false;
+            const qint64 mask = options->mask->toLongLong(&ok);
+            if (!ok) {
+                io.message(u"Die Maske \"%1\" ist keine ganze Zahl."_s.arg(*options->mask));
+                return kUsage;
+            }
+            finder.setSFileFlag(mask);
+        }
+        finder.setSFileToFind(options->pattern);
+        finder.setSSearchpath(options->folder);
+        finder.setSInclSubfolders(options->inclSubfolders);
+    } catch (const QuenforError& error) {
+        io.message(u"%1: %2"_s.arg(error.description(), finder.lastFailure()));
+        return kUsage;
+    }
+    if (options->pattern.isEmpty()) {
+        io.message(u"Das Suchmuster ist leer."_s);
+        return kUsage;
+    }
+    // The finder takes a missing folder for one without hits; a script needs to hear of the typo.
+    if (!folderExists(options->folder)) {
+        io.message(u"Der Ordner \"%1\" existiert nicht."_s.arg(options->folder));
+        return kFailed;
+    }
+
+    QString block;
+    finder.onMatchFound([&](const QString& fileName, const QString& directory, const QDateTime&, qint32 size,
+                            const QDateTime&, const QDateTime&, const QString&) {
+        block += directory + u'\t' + fileName + u'\t' + QString::number(size) + u'\n';
+        if (block.size() >= kFlushSize) {
+            io.print(block);
+            block.clear();
+        }
+    });
+    int status = kOk;
+    try {
+        finder.sStartSearch();
+    } catch (const QuenforError& error) {
+        io.print(block);
+        block.clear();
+        io.message(u"%1: %2"_s.arg(error.description(), finder.lastFailure()));
+        status = kFailed;
+    }
+    io.print(block);
+    // The list is complete apart from these folders: say so, or a script would miss files silently.
+    for (const QString& folder : finder.unreadableFolders())
+        io.message(u"Nicht lesbar, seine Dateien fehlen: %1"_s.arg(folder));
+    return status;
+}
+
+QString findCommandHelp() {
+    return u"quenfor-cli find [--no-subfolders] [--mask N] ORDNER MUSTER\n"
+           "  Dateisuche: listet alle Einträge von ORDNER und seinen Unterverzeichnissen, deren Name\n"
+           "  zum MUSTER passt (\"*\" und \"?\" wie unter Windows, Groß-/Kleinschreibung egal; ein\n"
+           "  Muster, keine Liste). Je Treffer eine Zeile: Verzeichnis, Tabulator, Dateiname,\n"
+           "  Tabulator, Größe (ab 2 GiB falsch, wie im Original). Ausgabe UTF-8 mit LF.\n"
+           "  --no-subfolders  nur ORDNER selbst durchsuchen\n"
+           "  --mask N         Attributmaske (Vorgabe 439): ein Eintrag wird nur gemeldet, wenn jedes\n"
+           "                   seiner Attribute auch in N gesetzt ist. Schreibgeschützt 1, versteckt\n"
+           "                   (Name beginnt mit \".\") 2, Verzeichnis 16, Archiv (normale Datei) 32,\n"
+           "                   normal (weder Datei noch Verzeichnis) 128. 33 = nur Dateien.\n"
+           "  Verlinkte Verzeichnisse werden durchsucht, aber kein Verzeichnis zweimal.\n"_s;
+}
+
+} // namespace quenfor::cli

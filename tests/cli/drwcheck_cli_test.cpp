@@ -1,0 +1,62 @@
+// quenfor-cli drwcheck, run as a nightly script would over single drawings and whole folders.
+#include "../cadfiles/drawingfixture.h"
+#include "clitest.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+using drawingfixture::drawingBytes;
+
+namespace {
+
+class DrwCheckCliTest : public CliTestBase {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(QDir(dir.path()).mkdir(u"zeichnungen"_s));
+        write(u"zeichnungen/bracket.drw.2"_s, drawingBytes("BRACKET "));
+        write(u"zeichnungen/Bracket2.drw"_s, drawingBytes("BRACKET "));
+        write(u"zeichnungen/a.b.drw"_s, drawingBytes("a "));
+        write(u"zeichnungen/kurz.drw"_s, "#UGC:2 DRAWING 1977 1560 803 1 1 15 3800 2022024 000002cf \\\n#- VERS 0 0\n");
+        write(u"zeichnungen/bracket.prt.1"_s, drawingBytes("BRACKET "));
+        write(u"einzeln.drw"_s, drawingBytes("EINZELN2"));
+        write(u"binaer.drw"_s, drawingfixture::headerLine("\tBIN\x01", 730));
+    }
+};
+
+TEST_F(DrwCheckCliTest, PrintsOneLinePerDrawing) {
+    const CliRun r = run({u"drwcheck"_s, path(u"zeichnungen"_s), path(u"einzeln.drw"_s)});
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, QByteArray("A\tA\tOK\n"
+                                "BRACKET\tBRACKET\tOK\n"
+                                "BRACKET2\tBRACKET\tNICHT\n"
+                                "KURZ\t\tNICHT\n"
+                                "EINZELN\tEINZELN2\tNICHT\n"));
+    // Why KURZ reads nothing: its first line is far too short.
+    EXPECT_TRUE(r.err.contains(u"Bei 1 von 5 Zeichnungen ist die erste Zeile kürzer als 725 Zeichen"_s))
+        << r.err.toStdString();
+}
+
+TEST_F(DrwCheckCliTest, ControlCharactersKeepTheColumns) {
+    const CliRun r = run({u"drwcheck"_s, path(u"binaer.drw"_s)});
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, QByteArray("BINAER\t^IBIN^A\tNICHT\n"));
+}
+
+TEST_F(DrwCheckCliTest, MissingPathFailsButTheOthersAreChecked) {
+    const CliRun r = run({u"drwcheck"_s, path(u"fehlt.drw"_s), path(u"einzeln.drw"_s)});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, QByteArray("EINZELN\tEINZELN2\tNICHT\n"));
+    EXPECT_TRUE(r.err.contains(u"gibt es nicht"_s)) << r.err.toStdString();
+}
+
+TEST_F(DrwCheckCliTest, UsageErrors) {
+    for (const QStringList& args :
+         {QStringList{u"drwcheck"_s}, QStringList{u"drwcheck"_s, u"-r"_s, path(u"einzeln.drw"_s)}}) {
+        const CliRun r = run(args);
+        EXPECT_EQ(r.status, 2) << args.join(u' ').toStdString();
+        EXPECT_TRUE(r.out.isEmpty());
+        EXPECT_TRUE(r.err.contains(u"drwcheck"_s)) << r.err.toStdString();
+    }
+}
+
+} // namespace
