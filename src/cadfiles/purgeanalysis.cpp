@@ -10,6 +10,7 @@
 #include <cmath>
 #include <optional>
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -53,13 +54,59 @@ template <typename Key> void sortByUpperKey(QStringList& names, Key (*upperOf)(c
     names = std::move(sorted);
 }
 
-QByteArray asciiUpper(const QString& name) {
-    QByteArray key = name.toLatin1();
-    for (char& c : key) {
-        if (c >= 'a' && c <= 'z')
-            c = char(c - 32);
+// ASCII names sort by their upper-case bytes; the first sixteen, packed into two words, decide
+// nearly every comparison without touching the strings.
+void sortAsciiNames(QStringList& names) {
+    struct Entry {
+        quint64 high;
+        quint64 low;
+        qsizetype index;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(size_t(names.size()));
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        Entry e{0, 0, i};
+        const QString& name = names[i];
+        const qsizetype n = qMin<qsizetype>(name.size(), 16);
+        for (qsizetype k = 0; k < n; ++k) {
+            quint64 c = name[k].unicode();
+            if (c >= 'a' && c <= 'z')
+                c -= 32;
+            if (k < 8)
+                e.high |= c << (8 * (7 - k));
+            else
+                e.low |= c << (8 * (15 - k));
+        }
+        entries.push_back(e);
     }
-    return key;
+    const auto upperLess = [&names](qsizetype a, qsizetype b) {
+        const QString& x = names[a];
+        const QString& y = names[b];
+        const qsizetype n = qMin(x.size(), y.size());
+        for (qsizetype k = 16; k < n; ++k) {
+            char16_t cx = x[k].unicode();
+            char16_t cy = y[k].unicode();
+            cx = (cx >= u'a' && cx <= u'z') ? char16_t(cx - 32) : cx;
+            cy = (cy >= u'a' && cy <= u'z') ? char16_t(cy - 32) : cy;
+            if (cx != cy)
+                return cx < cy ? -1 : 1;
+        }
+        return x.size() == y.size() ? 0 : (x.size() < y.size() ? -1 : 1);
+    };
+    std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
+        if (a.high != b.high)
+            return a.high < b.high;
+        if (a.low != b.low)
+            return a.low < b.low;
+        if (const int c = upperLess(a.index, b.index); c != 0)
+            return c < 0;
+        return QString::compare(names[a.index], names[b.index], Qt::CaseSensitive) < 0;
+    });
+    QStringList sorted;
+    sorted.reserve(names.size());
+    for (const Entry& entry : entries)
+        sorted.append(std::move(names[entry.index]));
+    names = std::move(sorted);
 }
 
 QString fullUpper(const QString& name) {
@@ -71,7 +118,7 @@ QString fullUpper(const QString& name) {
 void sortLikeFileList(QStringList& names) {
     // Nearly all CAD file names are plain ASCII: their upper-case forms compare as bytes.
     if (std::all_of(names.cbegin(), names.cend(), isAscii))
-        sortByUpperKey(names, asciiUpper);
+        sortAsciiNames(names);
     else
         sortByUpperKey(names, fullUpper);
 }
