@@ -1,10 +1,10 @@
 #include "ui/favoritespanel.h"
 
 #include "ui/entrylinepanel.h"
+#include "ui/folderwidgets.h"
 #include "ui/panelheader.h"
 #include "ui/statushints.h"
 
-#include "common/drives.h"
 #include "common/fileexists.h"
 #include "knowledge/favorites.h"
 
@@ -221,8 +221,7 @@ bool FavoritesPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FavoritesPanel::fillDrives() {
-    for (const QString& root : logicalDrives())
-        m_drives->addItem(QDir::toNativeSeparators(root));
+    fillDriveBox(m_drives);
 }
 
 int FavoritesPanel::driveIndexOf(const QString& folder) {

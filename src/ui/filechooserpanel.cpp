@@ -1,8 +1,8 @@
 #include "ui/filechooserpanel.h"
 
+#include "ui/folderwidgets.h"
 #include "ui/panelheader.h"
 
-#include "common/drives.h"
 #include "common/pathseparators.h"
 #include "common/pathsplit.h"
 
@@ -238,8 +238,7 @@ QString FileChooserPanel::allFilesPattern() {
 }
 
 void FileChooserPanel::fillDrives() {
-    for (const QString& root : logicalDrives())
-        m_drives->addItem(QDir::toNativeSeparators(root));
+    fillDriveBox(m_drives);
 }
 
 void FileChooserPanel::selectDriveOf(const QString& folder) {

@@ -8,10 +8,10 @@
 #include "cadfiles/purgesettings.h"
 #include "cadfiles/purgetree.h"
 #include "common/drivecontaining.h"
-#include "common/drives.h"
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "ui/dialogs.h"
+#include "ui/folderwidgets.h"
 #include "ui/panelheader.h"
 #include "ui/statushints.h"
 
@@ -83,29 +83,13 @@ PurgeWindow::PurgeWindow(QWidget* parent)
 PurgeWindow::~PurgeWindow() = default;
 
 void PurgeWindow::buildWidgets() {
-    m_status = new QLabel(this);
-    m_status->setObjectName(u"lblStatus"_s);
-    m_status->setWordWrap(true);
-    m_status->setFrameShape(QFrame::StyledPanel);
-    m_status->setMinimumHeight(2 * fontMetrics().lineSpacing() + 6);
-    m_status->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_status = makeStatusLine(this, u"lblStatus"_s);
     m_hints = new StatusHints(m_status, this);
 
     // Drive, folder and the folder's files.
-    m_drives = new QComboBox(this);
-    m_drives->setObjectName(u"Drive1"_s);
-    for (const QString& root : logicalDrives())
-        m_drives->addItem(QDir::toNativeSeparators(root));
+    m_drives = makeDriveBox(this);
     connect(m_drives, &QComboBox::activated, this, &PurgeWindow::chooseDrive);
-    m_folderModel->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
-    m_folderModel->setRootPath(QString());
-    m_folderTree = new QTreeView(this);
-    m_folderTree->setObjectName(u"Dir1"_s);
-    m_folderTree->setModel(m_folderModel);
-    for (int column = 1; column < m_folderModel->columnCount(); ++column)
-        m_folderTree->hideColumn(column);
-    m_folderTree->setHeaderHidden(true);
-    m_folderTree->setUniformRowHeights(true);
+    m_folderTree = makeFolderTree(this, m_folderModel);
     m_folderTree->setMinimumWidth(260);
     connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &PurgeWindow::showCurrentFolder);

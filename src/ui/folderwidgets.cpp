@@ -1,0 +1,50 @@
+#include "ui/folderwidgets.h"
+
+#include "common/drives.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QLabel>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor {
+
+QLabel* makeStatusLine(QWidget* parent, const QString& objectName) {
+    auto* status = new QLabel(parent);
+    status->setObjectName(objectName);
+    status->setWordWrap(true);
+    status->setFrameShape(QFrame::StyledPanel);
+    status->setMinimumHeight(2 * status->fontMetrics().lineSpacing() + 6);
+    status->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return status;
+}
+
+void fillDriveBox(QComboBox* box) {
+    for (const QString& root : logicalDrives())
+        box->addItem(QDir::toNativeSeparators(root));
+}
+
+QComboBox* makeDriveBox(QWidget* parent) {
+    auto* box = new QComboBox(parent);
+    box->setObjectName(u"Drive1"_s);
+    fillDriveBox(box);
+    return box;
+}
+
+QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model) {
+    model->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
+    model->setRootPath(QString());
+    auto* tree = new QTreeView(parent);
+    tree->setObjectName(u"Dir1"_s);
+    tree->setModel(model);
+    for (int column = 1; column < model->columnCount(); ++column)
+        tree->hideColumn(column);
+    tree->setHeaderHidden(true);
+    tree->setUniformRowHeights(true);
+    return tree;
+}
+
+} // namespace quenfor
