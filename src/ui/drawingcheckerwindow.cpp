@@ -7,6 +7,7 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "settings/mainsettings.h"
+#include "ui/backgroundjob.h"
 #include "ui/folderwidgets.h"
 #include "ui/statushints.h"
 
@@ -21,7 +22,6 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QThread>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -302,19 +302,18 @@ void DrawingCheckerWindow::checkFolder() {
     setRunning(true);
 
     const QString codepage = m_codepage;
-    QThread* worker = QThread::create([job, files, codepage] {
-        job->result = checkDrawings(
-            job->folder, files, codepage,
-            [&job = *job](qsizetype done, qsizetype) { job.done.store(done, std::memory_order_relaxed); },
-            &job->cancel);
-    });
-    // The thread holds the job; a window closed meanwhile simply no longer hears of it.
-    connect(worker, &QThread::finished, this, [this, job] {
-        if (m_job == job)
-            finishCheck();
-    });
-    connect(worker, &QThread::finished, worker, &QObject::deleteLater);
-    worker->start();
+    runInBackground(
+        this,
+        [job, files, codepage] {
+            job->result = checkDrawings(
+                job->folder, files, codepage,
+                [&job = *job](qsizetype done, qsizetype) { job.done.store(done, std::memory_order_relaxed); },
+                &job->cancel);
+        },
+        [this, job] {
+            if (m_job == job)
+                finishCheck();
+        });
     m_progressTimer->start();
 }
 

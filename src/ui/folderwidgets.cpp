@@ -47,4 +47,14 @@ QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model) {
     return tree;
 }
 
+bool showFolderInTree(QTreeView* tree, QFileSystemModel* model, const QString& folder) {
+    const QModelIndex index = model->index(QDir::fromNativeSeparators(folder));
+    if (!index.isValid())
+        return false;
+    tree->setCurrentIndex(index);
+    tree->expand(index);
+    tree->scrollTo(index);
+    return true;
+}
+
 } // namespace quenfor

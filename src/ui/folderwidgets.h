@@ -22,4 +22,8 @@ void fillDriveBox(QComboBox* box);
 // Dir1: a tree of folders only (no files, no extra columns) over the given model.
 QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model);
 
+// Makes `folder` the tree's current folder and brings it into view; false when the model has no
+// such folder (the window then says so in its own words).
+bool showFolderInTree(QTreeView* tree, QFileSystemModel* model, const QString& folder);
+
 } // namespace quenfor

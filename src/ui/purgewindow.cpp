@@ -259,14 +259,10 @@ QWidget* PurgeWindow::buildOptionsFrame() {
 }
 
 void PurgeWindow::setCurrentFolder(const QString& folder) {
-    const QModelIndex index = m_folderModel->index(QDir::fromNativeSeparators(folder));
-    if (!index.isValid()) {
+    if (!showFolderInTree(m_folderTree, m_folderModel, folder)) {
         m_status->setText(tr("Das Verzeichnis \"%1\" existiert nicht.").arg(QDir::toNativeSeparators(folder)));
         return;
     }
-    m_folderTree->setCurrentIndex(index);
-    m_folderTree->expand(index);
-    m_folderTree->scrollTo(index);
     showCurrentFolder();
 }
 

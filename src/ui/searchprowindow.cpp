@@ -4,6 +4,7 @@
 #include "common/fileexists.h"
 #include "knowledge/searchprotexts.h"
 #include "knowledge/searchprowalk.h"
+#include "ui/backgroundjob.h"
 #include "ui/dialogs.h"
 #include "ui/folderwidgets.h"
 #include "ui/panelheader.h"
@@ -21,7 +22,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStringListModel>
-#include <QThread>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -200,14 +200,10 @@ void SearchProWindow::buildWidgets() {
 }
 
 void SearchProWindow::setCurrentFolder(const QString& folder) {
-    const QModelIndex index = m_folderModel->index(QDir::fromNativeSeparators(folder));
-    if (!index.isValid()) {
+    if (!showFolderInTree(m_folderTree, m_folderModel, folder)) {
         m_status->setText(tr("Der Ordner \"%1\" existiert nicht.").arg(QDir::toNativeSeparators(folder)));
         return;
     }
-    m_folderTree->setCurrentIndex(index);
-    m_folderTree->expand(index);
-    m_folderTree->scrollTo(index);
     // Setting the same index again announces nothing; the folder shown must still be this one.
     showCurrentFolder();
 }
@@ -252,17 +248,17 @@ void SearchProWindow::generate() {
 
     const QString start = m_folder;
     const FolderLister* lister = &m_lister;
-    QThread* worker = QThread::create([job, start, lister] {
-        job->result = SearchProWalk(*lister).run(
-            start, [&job = *job](qsizetype found) { job.found.store(found, std::memory_order_relaxed); }, &job->cancel);
-    });
-    // The thread holds the job; a window closed meanwhile simply no longer hears of it.
-    connect(worker, &QThread::finished, this, [this, job] {
-        if (m_job == job)
-            finishGeneration();
-    });
-    connect(worker, &QThread::finished, worker, &QObject::deleteLater);
-    worker->start();
+    runInBackground(
+        this,
+        [job, start, lister] {
+            job->result = SearchProWalk(*lister).run(
+                start, [&job = *job](qsizetype found) { job.found.store(found, std::memory_order_relaxed); },
+                &job->cancel);
+        },
+        [this, job] {
+            if (m_job == job)
+                finishGeneration();
+        });
     m_progressTimer->start();
 }
 
