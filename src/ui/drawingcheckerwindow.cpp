@@ -3,7 +3,6 @@
 #include "cadfiles/drawingcheckersettings.h"
 #include "cadfiles/drawingfoldercheck.h"
 #include "cadfiles/drawingmodel.h"
-#include "common/drivecontaining.h"
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "settings/mainsettings.h"
@@ -228,12 +227,7 @@ void DrawingCheckerWindow::showCurrentFolder() {
 }
 
 void DrawingCheckerWindow::selectDriveOfFolder() {
-    QStringList roots;
-    for (int i = 0; i < m_drives->count(); ++i)
-        roots.append(m_drives->itemText(i));
-    const qsizetype drive = driveContaining(roots, m_folder);
-    if (drive >= 0)
-        m_drives->setCurrentIndex(int(drive));
+    selectDriveOf(m_drives, m_folder);
 }
 
 void DrawingCheckerWindow::chooseDrive(int index) {

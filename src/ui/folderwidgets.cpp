@@ -1,5 +1,6 @@
 #include "ui/folderwidgets.h"
 
+#include "common/drivecontaining.h"
 #include "common/drives.h"
 
 #include <QComboBox>
@@ -25,6 +26,15 @@ QLabel* makeStatusLine(QWidget* parent, const QString& objectName) {
 void fillDriveBox(QComboBox* box) {
     for (const QString& root : logicalDrives())
         box->addItem(QDir::toNativeSeparators(root));
+}
+
+void selectDriveOf(QComboBox* box, const QString& folder) {
+    QStringList roots;
+    for (int i = 0; i < box->count(); ++i)
+        roots.append(box->itemText(i));
+    const qsizetype drive = driveContaining(roots, folder);
+    if (drive >= 0)
+        box->setCurrentIndex(int(drive));
 }
 
 QComboBox* makeDriveBox(QWidget* parent) {

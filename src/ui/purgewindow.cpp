@@ -7,7 +7,6 @@
 #include "cadfiles/purgedelete.h"
 #include "cadfiles/purgesettings.h"
 #include "cadfiles/purgetree.h"
-#include "common/drivecontaining.h"
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "ui/dialogs.h"
@@ -271,12 +270,7 @@ void PurgeWindow::showCurrentFolder() {
     if (!index.isValid())
         return;
     m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
-    QStringList roots;
-    for (int i = 0; i < m_drives->count(); ++i)
-        roots.append(m_drives->itemText(i));
-    const qsizetype drive = driveContaining(roots, m_folder);
-    if (drive >= 0)
-        m_drives->setCurrentIndex(int(drive));
+    selectDriveOf(m_drives, m_folder);
     // The purge list is left alone: the analysis is an explicit step.
     refreshFileLists();
 }

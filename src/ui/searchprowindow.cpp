@@ -1,6 +1,5 @@
 #include "ui/searchprowindow.h"
 
-#include "common/drivecontaining.h"
 #include "common/fileexists.h"
 #include "knowledge/searchprotexts.h"
 #include "knowledge/searchprowalk.h"
@@ -215,12 +214,7 @@ void SearchProWindow::showCurrentFolder() {
     m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
     m_startFolder->setText(m_folder);
     m_hints->add(m_createFile, SearchProHints::createFile(m_folder));
-    QStringList roots;
-    for (int i = 0; i < m_drives->count(); ++i)
-        roots.append(m_drives->itemText(i));
-    const qsizetype drive = driveContaining(roots, m_folder);
-    if (drive >= 0)
-        m_drives->setCurrentIndex(int(drive));
+    selectDriveOf(m_drives, m_folder);
 }
 
 void SearchProWindow::chooseDrive(int index) {
