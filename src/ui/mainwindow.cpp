@@ -75,6 +75,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     connectKnowledge();
     connectGenerators();
     connectCadFiles();
+    connectDeskTools();
     showMarked(-1);
 }
 

@@ -64,6 +64,7 @@ private:
     void connectKnowledge();
     void connectGenerators();
     void connectCadFiles();
+    void connectDeskTools();
 
     // Option knowledge
     void explainEntryLine();
@@ -133,6 +134,17 @@ private:
     QPointer<PurgeWindow> m_purge;
     QPointer<DrawingCheckerWindow> m_drawingChecker;
     QPointer<TastomatWindow> m_tastomat;
+    // The desk tools, each opened once and brought to the front when chosen again.
+    QPointer<QWidget> m_textEditor;
+    QPointer<QWidget> m_pictureViewer;
+    QPointer<QWidget> m_netSend;
+    QPointer<QWidget> m_workTime;
+    QPointer<QWidget> m_screenshot;
+    QPointer<QWidget> m_interpolation;
+    QPointer<QWidget> m_shooter;
+    QPointer<QWidget> m_asciiTable;
+    QPointer<QWidget> m_colourBox;
+    QPointer<QWidget> m_about;
 };
 
 } // namespace quenfor

@@ -13,6 +13,7 @@
 #include "ui/entrylinepanel.h"
 #include "ui/filechooserpanel.h"
 #include "ui/pickerpanel.h"
+#include "ui/programexit.h"
 #include "ui/searchdialog.h"
 #include "ui/toolcolumn.h"
 
@@ -54,7 +55,7 @@ void MainWindow::connectMenus() {
     on(u"mnuSpeichern"_s, [this] { save(); });
     on(u"mnuDrucken"_s, [this] { printDocumentWithDialog(this, *m_document); });
     on(u"mnuSuchen"_s, [this] { showSearchDialog(); });
-    on(u"mnuExit"_s, [] { QApplication::closeAllWindows(); });
+    on(u"mnuExit"_s, [] { endWholeProgram(); });
     on(u"mnuHilfedatei"_s, [this] {
         const QString path = m_picker->knowledgeBasePath();
         if (path.isEmpty() || !fileExists(path)) {

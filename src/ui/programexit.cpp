@@ -1,0 +1,11 @@
+#include "ui/programexit.h"
+
+#include <QApplication>
+
+namespace quenfor {
+
+void endWholeProgram() {
+    QApplication::closeAllWindows();
+}
+
+} // namespace quenfor

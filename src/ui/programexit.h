@@ -1,0 +1,10 @@
+#pragma once
+
+namespace quenfor {
+
+// Ends the whole program the way the menu entry "EXIT" does: every window is asked to close, so
+// each stores its settings and the main window still asks whether to save its document. A window
+// that refuses (the user cancelled) keeps the program running.
+void endWholeProgram();
+
+} // namespace quenfor
