@@ -1,0 +1,84 @@
+// A save that is killed at any moment must leave the file either as it was or as it was meant to
+// become: administrators run quenfor-cli -i from scripts that may be stopped at any time.
+#include "clitest.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QThread>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray bigConfig() {
+    QByteArray text;
+    text.reserve(12 * 1024 * 1024);
+    for (int i = 0; i < 160000; ++i) {
+        text += "Option_" + QByteArray::number((i * 7919) % 160000) + " C:\\Projekte\\Baugruppe_" +
+                QByteArray::number(i) + "\\Teile ";
+        text += (i % 3 == 0) ? "YES\r\n" : "\xe4nderung\r\n"; // code page bytes must survive too
+    }
+    return text;
+}
+
+QByteArray hashOf(const QByteArray& bytes) {
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+class SaveKillTest : public CliTestBase {};
+
+TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
+    const QByteArray oldBytes = bigConfig();
+    const QString reference = write(u"reference.pro"_s, oldBytes);
+    const CliRun complete = run({u"lower"_s, u"-i"_s, reference});
+    ASSERT_EQ(complete.status, 0) << complete.err.toStdString();
+    const QByteArray newBytes = read(reference);
+    ASSERT_NE(newBytes, oldBytes);
+    const QByteArray oldHash = hashOf(oldBytes);
+    const QByteArray newHash = hashOf(newBytes);
+
+    // How long a whole run takes here, so the kills spread over reading, work and writing.
+    const QString target = path(u"config.pro"_s);
+    QElapsedTimer clock;
+    clock.start();
+    write(u"config.pro"_s, oldBytes);
+    ASSERT_EQ(run({u"lower"_s, u"-i"_s, target}).status, 0);
+    const qint64 fullRunMs = qMax<qint64>(clock.elapsed(), 20);
+
+    QRandomGenerator random(QRandomGenerator::global()->generate());
+    int killed = 0;
+    int sawOld = 0;
+    int sawNew = 0;
+    for (int attempt = 0; killed < 50 && attempt < 400; ++attempt) {
+        write(u"config.pro"_s, oldBytes);
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(u"XDG_CONFIG_HOME"_s, path(u"config-home"_s));
+        process.setProcessEnvironment(env);
+        process.start(QStringLiteral(QUENFOR_CLI_PATH), {u"lower"_s, u"-i"_s, target});
+        ASSERT_TRUE(process.waitForStarted());
+        QThread::usleep(random.bounded(quint32(fullRunMs * 1200)));
+        if (process.state() == QProcess::Running) {
+            ::kill(pid_t(process.processId()), SIGKILL);
+            ++killed;
+        }
+        process.waitForFinished(60000);
+
+        const QByteArray hash = hashOf(read(target));
+        ASSERT_TRUE(hash == oldHash || hash == newHash) << "attempt " << attempt << ": the file is neither old nor new";
+        (hash == oldHash ? sawOld : sawNew) += 1;
+        // A killed save may leave its temporary file behind; it is never the file itself.
+        for (const QString& name : QDir(dir.path()).entryList({u"config.pro?*"_s}, QDir::Files))
+            QFile::remove(path(name));
+    }
+    EXPECT_EQ(killed, 50);
+    // Kills both before and after the rename: otherwise the timing did not cover the save.
+    EXPECT_GT(sawOld, 0);
+    EXPECT_GT(sawNew, 0);
+}
+
+} // namespace
