@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,7 +17,13 @@ DirectoryEntries listDirectory(const QString& folder) {
         return entries;
     const QByteArray encoded = QFile::encodeName(folder);
     struct stat folderStatus;
-    if (::stat(encoded.constData(), &folderStatus) != 0 || !S_ISDIR(folderStatus.st_mode))
+    if (::stat(encoded.constData(), &folderStatus) != 0) {
+        // A folder whose status the system will not tell (path too long, a parent that may not
+        // be passed) is still there: it is reported as unreadable, not taken for vanished.
+        entries.exists = errno != ENOENT && errno != ENOTDIR;
+        return entries;
+    }
+    if (!S_ISDIR(folderStatus.st_mode))
         return entries;
     entries.exists = true;
     DIR* dir = ::opendir(encoded.constData());

@@ -2,6 +2,7 @@
 
 #include "cadfiles/findattributes.h"
 #include "cadfiles/findpattern.h"
+#include "common/folderstatus.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -164,8 +165,11 @@ void cFindFile::searchFolder(qint64& entriesRead) {
 
     // A missing folder is no error: it simply has no hits.
     const QFileInfo folder(path);
-    if (!folder.isDir())
+    if (!folder.isDir()) {
+        if (folderStatus(path) == FolderStatus::CannotTell)
+            m_unreadable.append(path);
         return;
+    }
     // Links may lead back up the tree; each real folder is read once, so every loop ends.
     const QString canonical = folder.canonicalFilePath();
     if (m_searched.contains(canonical))

@@ -26,8 +26,11 @@ public:
         const QByteArray encoded = QFile::encodeName(path);
         DIR* dir = ::opendir(encoded.constData());
         if (!dir) {
-            // Opening tells a missing path from a folder that may not be read.
-            listing.isFolder = errno != ENOENT && errno != ENOTDIR && isFolderAt(encoded);
+            // Opening tells a missing path from a folder that cannot be read. The reason may also
+            // keep its status from us (a path beyond the system's length limit, a parent that
+            // may be read but not passed): such a folder counts as unreadable, not as gone, or
+            // the walk would take its parent's subfolders again and again.
+            listing.isFolder = errno != ENOENT && errno != ENOTDIR;
             return listing;
         }
         listing.isFolder = true;
