@@ -69,11 +69,20 @@ qsizetype asciiPrefixLength(const char* data, qsizetype size) {
     return i;
 }
 
+// QString::fromUtf8 takes a leading EF BB BF for a byte order mark and drops it. Inside a file
+// (a line that starts with one, files joined with `cat`) it is a character like any other and
+// must survive, so it is decoded here by hand.
+QString fromUtf8KeepingMark(const char* data, qsizetype size) {
+    if (size >= 3 && std::memcmp(data, kUtf8Mark, 3) == 0)
+        return QChar(char16_t(0xFEFF)) + QString::fromUtf8(data + 3, size - 3);
+    return QString::fromUtf8(data, size);
+}
+
 class Utf8Codec final : public LineCodec {
 public:
     QString decode(const char* data, qsizetype size) const override {
         if (isValidUtf8(data, size))
-            return QString::fromUtf8(data, size);
+            return fromUtf8KeepingMark(data, size);
         return decodeWithEscapes(reinterpret_cast<const unsigned char*>(data), size);
     }
 
@@ -103,7 +112,7 @@ private:
                 result.append(QChar(char16_t(kEscapeBase + p[i])));
                 ++i;
             } else {
-                result.append(QString::fromUtf8(reinterpret_cast<const char*>(p + i), n));
+                result.append(fromUtf8KeepingMark(reinterpret_cast<const char*>(p + i), n));
                 i += n;
             }
         }

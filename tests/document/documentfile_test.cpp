@@ -132,6 +132,26 @@ TEST_F(DocumentFileTest, UsersFilesKeepEveryByte) {
               rows(u"! Kommentar|save_model_display shading_lod  |trail_dir C:\\temp\\trail||! Ende"));
 }
 
+// EF BB BF inside a file is the character U+FEFF, not a mark to drop: files joined with `cat`
+// carry one at the start of a later line. Found by fuzzing, in valid and in broken UTF-8.
+TEST_F(DocumentFileTest, ByteOrderMarkInsideTheFileIsKept) {
+    const QByteArray joined = "\xEF\xBB\xBF! erste Datei\r\n\xEF\xBB\xBF! zweite Datei \xC3\xA4\r\n";
+    const QByteArray broken = "! \xEA\xB5\xAC\xEC\xEF\xBB\xBF\xED\x8C\x8C\r\n\xEF\xBB\xBFx \xC4\r\n";
+    for (const QByteArray& original : {joined, broken}) {
+        for (const QString& codepage : {u"windows-1252"_s, u"UTF-8"_s}) {
+            SCOPED_TRACE(codepage.toStdString());
+            const ReadResult read = readDocumentBytes(original, {codepage, false});
+            ASSERT_TRUE(read.ok);
+            QByteArray saved;
+            QBuffer buffer(&saved);
+            buffer.open(QIODevice::WriteOnly);
+            ASSERT_TRUE(writeDocument(buffer, read.lines, read.encoding).ok);
+            EXPECT_EQ(saved, original);
+        }
+    }
+    EXPECT_TRUE(readDocumentBytes(joined, {}).lines[1].startsWith(QChar(0xFEFF)));
+}
+
 TEST_F(DocumentFileTest, CodePageIsChosenOrForced) {
     const struct {
         QByteArray bytes;
