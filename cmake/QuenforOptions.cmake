@@ -23,3 +23,24 @@ function(quenfor_add_logic_library name)
     add_library(${name} STATIC ${ARGN})
     target_link_libraries(${name} PUBLIC quenfor_options Qt6::Core)
 endfunction()
+
+# AddressSanitizer + UndefinedBehaviorSanitizer for the whole build (the CI runs the test suite
+# once this way). Any finding stops the program, so a test cannot pass over it.
+option(QUENFOR_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+if(QUENFOR_SANITIZE)
+    target_compile_options(quenfor_options INTERFACE
+        -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(quenfor_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# libFuzzer harnesses (tests/fuzz) need clang; everything they link is instrumented for coverage
+# and built with the same sanitizers.
+option(QUENFOR_FUZZ "Build the libFuzzer harnesses (needs clang)" OFF)
+if(QUENFOR_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        message(FATAL_ERROR "QUENFOR_FUZZ needs clang: configure with -DCMAKE_CXX_COMPILER=clang++")
+    endif()
+    target_compile_options(quenfor_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(quenfor_options INTERFACE -fsanitize=address,undefined)
+endif()

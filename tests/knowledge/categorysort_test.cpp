@@ -1,4 +1,5 @@
 #include "../common/qstringprinting.h"
+#include "categorysortoracle.h"
 #include "document/cleanuptools.h"
 #include "knowledge/categories.h"
 #include "knowledge/categorysort.h"
@@ -11,25 +12,6 @@ using namespace Qt::StringLiterals;
 using namespace quenfor;
 
 namespace {
-
-// The sort as first written: every string of every list against every line, then the whole
-// document once more and the duplicate removal.
-QStringList literalSort(const QStringList& lines, const CategoryTable& table) {
-    QStringList result;
-    for (int k = 1; k <= CategoryTable::kCategoryCount; ++k) {
-        result.append(u"! "_s + CategoryTable::names()[k] + u" -----------------------"_s);
-        for (const QString& s : table.strings(k)) {
-            for (const QString& l : lines) {
-                if (l.startsWith(s) && !l.startsWith(u"mapkey"_s) && !l.isEmpty() &&
-                    !l.startsWith(u"browser_favorite"_s) && !l.startsWith(u"!"_s))
-                    result.append(l);
-            }
-        }
-    }
-    result.append(u"! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------"_s);
-    result.append(lines);
-    return removeDuplicateLines(result);
-}
 
 CategoryTable tableFrom(const QString& body) {
     QString text;
@@ -64,7 +46,7 @@ TEST(CategorySort, MatchesTheLiteralNestedLoop) {
         const int n = rng.bounded(0, 25);
         for (int i = 0; i < n; ++i)
             doc.append(pieces[rng.bounded(pieces.size())]);
-        ASSERT_EQ(sortByCategory(doc, table), literalSort(doc, table)) << doc.join(u'|').toStdString();
+        ASSERT_EQ(sortByCategory(doc, table), testing::literalCategorySort(doc, table)) << doc.join(u'|').toStdString();
     }
 }
 
