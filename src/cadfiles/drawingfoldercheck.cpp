@@ -1,5 +1,6 @@
 #include "cadfiles/drawingfoldercheck.h"
 
+#include "cadfiles/drawingmodellist.h"
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 
@@ -36,9 +37,11 @@ DrawingFolderCheck checkDrawings(const QString& folder, const QStringList& files
         }
         const QString path = joinFolderAndName(folder, name);
         if (fileExists(path)) {
-            DrawingCheck check = checkDrawing(path, codepage);
-            if (!check.matches)
+            DrawingCheck check = checkDrawingWithModelList(path, codepage);
+            if (!check.matches) {
                 result.differing.append(check.drawingName);
+                result.differingModels.append(check.listedModels);
+            }
             result.checks.append(std::move(check));
         }
         ++result.done;

@@ -16,10 +16,11 @@ namespace quenfor {
 QStringList drawingFilesIn(const QString& folder);
 
 struct DrawingFolderCheck {
-    QList<DrawingCheck> checks; // one per drawing that still existed, in list order
-    QStringList differing;      // drawing names (upper case, up to the first dot) without a match
-    qsizetype listed = 0;       // drawings listed when the check began
-    qsizetype done = 0;         // drawings handled (checked or skipped as gone) until the end or cancel
+    QList<DrawingCheck> checks;         // one per drawing that still existed, in list order, model lists read
+    QStringList differing;              // drawing names (upper case, up to the first dot) without a match
+    QList<QStringList> differingModels; // for each entry of differing: the models its drawing lists
+    qsizetype listed = 0;               // drawings listed when the check began
+    qsizetype done = 0;                 // drawings handled (checked or skipped as gone) until the end or cancel
     bool cancelled = false;
     QString error; // German, when the folder does not exist
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 namespace quenfor {
@@ -24,6 +25,7 @@ struct DrawingCheck {
     bool matches = false;
     DrawingRead read = DrawingRead::Read;
     qsizetype headerLength = -1; // with ShortHeader: the characters of the first line
+    QStringList listedModels;    // the drawing's own model list, when asked for (drawingmodellist.h)
 };
 
 // "bracket.drw.3" (or a path ending in it) gives "BRACKET"; "a.b.drw" gives "A".

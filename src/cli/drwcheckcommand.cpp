@@ -2,6 +2,7 @@
 
 #include "cadfiles/drawingfoldercheck.h"
 #include "cadfiles/drawingmodel.h"
+#include "cadfiles/drawingmodellist.h"
 #include "cli/documentio.h"
 #include "common/fileexists.h"
 
@@ -33,7 +34,7 @@ QString printable(const QString& text) {
 
 void printCheck(const DrawingCheck& check, const CliStreams& io) {
     io.print(printable(check.drawingName) + u'\t' + printable(check.modelName) + u'\t' +
-             (check.matches ? u"OK"_s : u"NICHT"_s) + u'\n');
+             (check.matches ? u"OK"_s : u"NICHT"_s) + u'\t' + printable(check.listedModels.join(u',')) + u'\n');
     if (check.read == DrawingRead::Unreadable)
         io.message(drawingCheckNote(check));
 }
@@ -61,7 +62,7 @@ int runDrwCheckCommand(const CliArgs& args, const CliStreams& io) {
                 count(check);
             }
         } else if (fileExists(path)) {
-            const DrawingCheck check = checkDrawing(path, codepage);
+            const DrawingCheck check = checkDrawingWithModelList(path, codepage);
             printCheck(check, io);
             count(check);
         } else {
@@ -84,7 +85,10 @@ QString drwCheckCommandHelp() {
            "  Modells, der in ihrer ersten Zeile ab Zeichen 725 steht, und vergleicht ihn mit dem\n"
            "  Zeichnungsnamen (Dateiname bis zum ersten Punkt, groß geschrieben). PFAD ist eine\n"
            "  Zeichnung oder ein Verzeichnis (dann alle Dateien \"*.drw*\" darin, nach Namen sortiert).\n"
-           "  Ausgabe je Zeichnung: Zeichnungsname, Tab, gelesener Modellname, Tab, OK oder NICHT.\n"
+           "  Ausgabe je Zeichnung: Zeichnungsname, Tab, gelesener Modellname, Tab, OK oder NICHT,\n"
+           "  Tab, die Modelle, die die Zeichnung selbst auflistet (Abschnitt Dwg_Models, durch Kommas\n"
+           "  getrennt; leer, wenn sie keine nennt). Die ersten drei Spalten folgen allein der Regel\n"
+           "  mit Zeichen 725; die vierte hilft bei Zeichnungen neuerer Versionen.\n"
            "  Steuerzeichen im Modellnamen erscheinen als ^@ ... ^_ und ^?.\n"
            "  Exit-Status 1, wenn ein PFAD nicht existiert; die übrigen werden trotzdem geprüft.\n"_s;
 }

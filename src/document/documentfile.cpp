@@ -250,6 +250,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
     bool mark = false;
     bool first = true;
     qsizetype lineEnds = 0;
+    bool lineFeeds = false;
     for (;;) {
         const qint64 n = file.read(chunk.data(), kChunkSize);
         if (n < 0) {
@@ -264,6 +265,8 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         first = false;
         check.feed(chunk.constData(), n);
         lineEnds += std::count(chunk.constData(), chunk.constData() + n, '\r');
+        // Only while no CR has turned up: a file with CRs is no Unix file, and the search stops.
+        lineFeeds = lineFeeds || (lineEnds == 0 && std::memchr(chunk.constData(), '\n', size_t(n)));
     }
     const bool valid = check.finish();
     const TextEncoding encoding = chooseEncoding(mark, valid, check.nonAscii(), choice);
@@ -275,7 +278,9 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         return result;
     }
     const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
-    return readStream(file, encoding, skipMark ? kMarkSize : 0, lineEnds + 1);
+    ReadResult result = readStream(file, encoding, skipMark ? kMarkSize : 0, lineEnds + 1);
+    result.lineFeedsOnly = result.ok && lineEnds == 0 && lineFeeds;
+    return result;
 }
 
 ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice) {
@@ -296,6 +301,7 @@ ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice)
     forEachLine(body.data(), body.size(), [&](qsizetype start, qsizetype length) {
         result.lines.append(codec->decode(body.data() + start, length));
     });
+    result.lineFeedsOnly = result.lines.size() == 1 && !body.contains('\r') && body.contains('\n');
     result.ok = true;
     return result;
 }
@@ -325,6 +331,44 @@ QString WriteResult::warning(const TextEncoding& encoding) const {
         .arg(encoding.displayName());
 }
 
+namespace {
+
+// Replaces the file atomically with what fill writes: a save that fails at any point leaves the
+// previous file byte for byte as it was. fill returns false on a failed write and leaves errno in
+// writeErrno. False with the German error text on failure.
+template <typename Fill> bool saveReplacing(const QString& path, QString& error, Fill&& fill) {
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        error = saveErrorText(path, u"An ihrer Stelle steht ein Verzeichnis."_s);
+        return false;
+    }
+    if (!info.absoluteDir().exists()) {
+        error = saveErrorText(path, u"Das Verzeichnis %1 existiert nicht."_s.arg(nativePath(info.absolutePath())));
+        return false;
+    }
+
+    QSaveFile file(path);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly)) {
+        error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
+        return false;
+    }
+    int writeErrno = 0;
+    if (!fill(file, writeErrno)) {
+        file.cancelWriting();
+        error = saveErrorText(path, reasonForErrno(writeErrno, file.errorString()));
+        return false;
+    }
+    errno = 0;
+    if (!file.commit()) {
+        error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
 WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding) {
     WriteResult result;
     QString error;
@@ -333,44 +377,29 @@ WriteResult writeDocumentFile(const QString& path, const QStringList& lines, con
         result.error = saveErrorText(path, error);
         return result;
     }
-    const QFileInfo info(path);
-    if (info.isDir()) {
-        result.error = saveErrorText(path, u"An ihrer Stelle steht ein Verzeichnis."_s);
-        return result;
-    }
-    if (!info.absoluteDir().exists()) {
-        result.error =
-            saveErrorText(path, u"Das Verzeichnis %1 existiert nicht."_s.arg(nativePath(info.absolutePath())));
-        return result;
-    }
+    result.ok = saveReplacing(path, result.error, [&](QSaveFile& file, int& writeErrno) {
+        if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
+            file.write(kUtf8Mark, kMarkSize);
+        return encodeLines(lines, *codec, result.unrepresentable, [&](const QByteArray& bytes) {
+            errno = 0;
+            if (file.write(bytes) == bytes.size())
+                return true;
+            writeErrno = errno;
+            return false;
+        });
+    });
+    return result;
+}
 
-    QSaveFile file(path);
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly)) {
-        result.error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
-        return result;
-    }
-    int writeErrno = 0;
-    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
-        file.write(kUtf8Mark, kMarkSize);
-    const bool written = encodeLines(lines, *codec, result.unrepresentable, [&](const QByteArray& bytes) {
+WriteResult writeBinaryFile(const QString& path, QByteArrayView bytes) {
+    WriteResult result;
+    result.ok = saveReplacing(path, result.error, [&](QSaveFile& file, int& writeErrno) {
         errno = 0;
-        if (file.write(bytes) == bytes.size())
+        if (file.write(bytes.data(), bytes.size()) == bytes.size())
             return true;
         writeErrno = errno;
         return false;
     });
-    if (!written) {
-        file.cancelWriting();
-        result.error = saveErrorText(path, reasonForErrno(writeErrno, file.errorString()));
-        return result;
-    }
-    errno = 0;
-    if (!file.commit()) {
-        result.error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
-        return result;
-    }
-    result.ok = true;
     return result;
 }
 

@@ -20,6 +20,9 @@ struct ReadResult {
     QString error; // German, for the user
     QStringList lines;
     TextEncoding encoding;
+    // The file holds line feeds but no carriage return at all: its lines end in LF alone, so it
+    // was read as one line.
+    bool lineFeedsOnly = false;
 };
 
 // Reads a file into lines by the reader's line rule, decoded as the encoding rule decides.
@@ -45,6 +48,9 @@ struct WriteResult {
 // Writes every line encoded and followed by CR LF. The file is replaced atomically: a save that
 // fails at any point leaves the previous file byte for byte as it was, and its permissions stay.
 WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding);
+
+// Writes the bytes as they are (a picture), replaced atomically in the same way.
+WriteResult writeBinaryFile(const QString& path, QByteArrayView bytes);
 
 // The same bytes to an open device (standard output of the command-line tool).
 WriteResult writeDocument(QIODevice& device, const QStringList& lines, const TextEncoding& encoding);

@@ -60,6 +60,8 @@ StorageResult openDocument(ConfigDocument& doc, const QString& path, const Encod
     doc.setEncoding(read.encoding);
     result.ok = true;
     result.status = fileFamilyOf(path).pickerLoadedStatus();
+    if (read.lineFeedsOnly)
+        result.hint = QString::fromUtf16(kLineFeedsOnlyHint);
     return result;
 }
 

@@ -16,10 +16,14 @@ struct StorageResult {
     QString status;  // status line on success
     QString error;   // message box text on failure
     QString warning; // success with a caveat (characters that became "?")
+    QString hint;    // opening: a note to show after the status (lines that end in LF alone)
 };
 
 inline constexpr char16_t kChooseFileFirst[] = u"Zuerst Datei auswählen !";
 inline constexpr char16_t kReadingStatus[] = u"Datei lesen...";
+// A file whose lines end in LF alone reads as one line; the repair tool splits it.
+inline constexpr char16_t kLineFeedsOnlyHint[] =
+    u"Hinweis: Die Zeilen enden nur mit LF; \"fragmentierten Unix Text reparieren\" (Werkzeuge) trennt sie.";
 
 // The open question at closing, asked when the document holds lines.
 QString closeQuestion(const QString& fileName);

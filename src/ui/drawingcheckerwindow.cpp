@@ -3,6 +3,7 @@
 #include "cadfiles/drawingcheckersettings.h"
 #include "cadfiles/drawingfoldercheck.h"
 #include "cadfiles/drawingmodel.h"
+#include "cadfiles/drawingmodellist.h"
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "settings/mainsettings.h"
@@ -117,6 +118,12 @@ void DrawingCheckerWindow::buildWidgets() {
     m_modelName->setReadOnly(true);
     auto* modelCaption = new QLabel(tr("Modellname:"), this);
     modelCaption->setBuddy(m_modelName);
+    // What the drawing lists itself: drawings of current releases hold no name at the position.
+    m_listedModels = new QLabel(this);
+    m_listedModels->setObjectName(u"lbl_modelle"_s);
+    m_listedModels->setWordWrap(true);
+    m_listedModels->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_listedModels->hide();
 
     m_differing = new QListWidget(this);
     m_differing->setObjectName(u"List1"_s);
@@ -166,6 +173,7 @@ void DrawingCheckerWindow::buildWidgets() {
     auto* right = new QVBoxLayout;
     right->addWidget(modelCaption);
     right->addWidget(m_modelName);
+    right->addWidget(m_listedModels);
     right->addWidget(m_note);
     right->addSpacing(8);
     right->addWidget(differingCaption);
@@ -259,14 +267,16 @@ void DrawingCheckerWindow::fileClicked(QListWidgetItem* item) {
 }
 
 void DrawingCheckerWindow::checkFile(const QString& fileName) {
-    const DrawingCheck check = checkDrawing(joinFolderAndName(m_folder, fileName), m_codepage);
+    const DrawingCheck check = checkDrawingWithModelList(joinFolderAndName(m_folder, fileName), m_codepage);
     if (check.read == DrawingRead::Missing) {
         // Gone since the list was made: nothing to read, and the list is out of date.
         setNote(drawingCheckNote(check));
+        setListedModels({});
         refreshFiles();
         return;
     }
     m_modelName->setText(check.modelName);
+    setListedModels(check.listedModels);
     m_status->setText(drawingCheckStatusText(check));
     setNote(drawingCheckNote(check));
 }
@@ -330,6 +340,8 @@ void DrawingCheckerWindow::finishCheck() {
     setRunning(false);
     const DrawingFolderCheck& result = job->result;
     m_differing->addItems(result.differing);
+    for (qsizetype i = 0; i < result.differingModels.size() && i < m_differing->count(); ++i)
+        m_differing->item(int(i))->setToolTip(drawingModelListText(result.differingModels[i]));
     if (!result.error.isEmpty())
         m_status->setText(result.error);
     else if (result.cancelled)
@@ -358,6 +370,11 @@ void DrawingCheckerWindow::setRunning(bool running) {
     m_check->setEnabled(!running);
     m_drives->setEnabled(!running);
     m_folderTree->setEnabled(!running);
+}
+
+void DrawingCheckerWindow::setListedModels(const QStringList& names) {
+    m_listedModels->setText(drawingModelListText(names));
+    m_listedModels->setVisible(!names.isEmpty());
 }
 
 void DrawingCheckerWindow::setNote(const QString& note) {

@@ -38,7 +38,8 @@ public:
     // The drawings File1 lists.
     QStringList drawingFiles() const;
 
-    // A click on File1's entry: reads its model name into Text1 and the verdict into lblStatus.
+    // A click on File1's entry: reads its model name into Text1 and the verdict into lblStatus;
+    // lbl_modelle shows the models the drawing lists itself, when it names any.
     void checkFile(const QString& fileName);
     // cmd_check: starts the folder check (nothing happens while one runs).
     void checkFolder();
@@ -65,6 +66,7 @@ private:
     void finishCheck();
     void setRunning(bool running);
     void setNote(const QString& note);
+    void setListedModels(const QStringList& names);
 
     QString m_folder;
     QString m_codepage;
@@ -77,6 +79,7 @@ private:
     QTreeView* m_folderTree = nullptr;
     QListWidget* m_files = nullptr;
     QLineEdit* m_modelName = nullptr;
+    QLabel* m_listedModels = nullptr;
     QListWidget* m_differing = nullptr;
     QPushButton* m_check = nullptr;
     QProgressBar* m_progressBar = nullptr;

@@ -76,6 +76,7 @@ void MainWindow::startUp(const QStringList& arguments) {
     applyScheme(scheme);
     checkStoredTempDir();
 
+    QString note;
     if (!arguments.isEmpty()) {
         QString path = arguments.first();
         // The program may be started with the path in double quotes; they are not part of it.
@@ -84,22 +85,24 @@ void MainWindow::startUp(const QStringList& arguments) {
         m_document->setFileName(QFileInfo(path).absoluteFilePath());
         showFileLabel();
         if (fileExists(path))
-            openFile(path);
+            note = openFile(path);
     } else {
         const QString folder = settingValue(Setting::Dir1);
         if (folderExists(folder))
             m_chooser->setFolder(folder);
     }
     applyFamilyOf(m_document->fileName());
+    // The file type rules may have replaced the status; the note still belongs after it.
+    appendStatusNote(note);
 }
 
-void MainWindow::openFile(const QString& path) {
+QString MainWindow::openFile(const QString& path) {
     setStatus(QString::fromUtf16(kReadingStatus));
     const StorageResult opened = openDocument(*m_document, path, storedEncodingChoice());
     if (!opened.ok) {
         setStatus(QString());
         Dialogs::information(this, opened.error);
-        return;
+        return {};
     }
     rememberFolderOf(path);
     m_chooser->setFolder(QFileInfo(path).absolutePath());
@@ -107,6 +110,13 @@ void MainWindow::openFile(const QString& path) {
     applyFamilyOf(path);
     m_contextMenu->hide();
     setStatus(tr("%1 Zeilen gelesen").arg(m_document->count()));
+    appendStatusNote(opened.hint);
+    return opened.hint;
+}
+
+void MainWindow::appendStatusNote(const QString& note) {
+    if (!note.isEmpty() && !status().endsWith(note))
+        setStatus(status() + u" – "_s + note);
 }
 
 void MainWindow::openLastFile() {

@@ -2,6 +2,7 @@
 #include "ui/drawingcheckerwindow.h"
 
 #include "../cadfiles/drawingfixture.h"
+#include "../cadfiles/modellistfixture.h"
 #include "cadfiles/drawingcheckersettings.h"
 #include "panelsandbox.h"
 #include "settings/settingsstore.h"
@@ -133,6 +134,51 @@ private slots:
         QCOMPARE(files->currentRow(), 3);
         clickItem(differing, 0);
         QCOMPARE(files->currentRow(), 1);
+    }
+
+    // Drawings of current releases: the designed rule reads no name, the drawing's own list shows
+    // beside Text1 and as the tooltip of their List1 entries.
+    void showsTheModelsTheDrawingLists() {
+        using namespace modellistfixture;
+        QTemporaryDir current;
+        QVERIFY(!writeFile(current.path(), u"gehaeuse.drw.3"_s,
+                           currentDrawing({packedSection(), modelsSection({"GEHAEUSE.PRT"}), objectsSection()}))
+                     .isEmpty());
+        QVERIFY(!writeFile(current.path(), u"welle.drw"_s, currentDrawing({modelsSection({"WELLE.PRT", "LAGER.ASM"})}))
+                     .isEmpty());
+        QVERIFY(!writeFile(current.path(), u"zzz.drw"_s, drawingBytes("ZZZ ")).isEmpty());
+        storeFolder(current.path());
+        DrawingCheckerWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* files = window.findChild<QListWidget*>(u"File1"_s);
+        auto* models = window.findChild<QLabel*>(u"lbl_modelle"_s);
+        QVERIFY(models);
+        QVERIFY(!models->isVisible());
+
+        clickItem(files, 0);
+        QCOMPARE(window.findChild<QLineEdit*>(u"Text1"_s)->text(), u""_s);
+        QCOMPARE(window.findChild<QLabel*>(u"lblStatus"_s)->text(), kNicht);
+        QVERIFY(models->isVisible());
+        QCOMPARE(models->text(), u"Modelle laut Zeichnung: GEHAEUSE.PRT"_s);
+
+        clickItem(files, 1);
+        QCOMPARE(models->text(), u"Modelle laut Zeichnung: WELLE.PRT, LAGER.ASM"_s);
+
+        // A drawing that names no model leaves nothing there.
+        clickItem(files, 2);
+        QCOMPARE(window.findChild<QLineEdit*>(u"Text1"_s)->text(), u"ZZZ"_s);
+        QVERIFY(!models->isVisible());
+
+        QSignalSpy finished(&window, &DrawingCheckerWindow::folderCheckFinished);
+        QTest::mouseClick(window.findChild<QPushButton*>(u"cmd_check"_s), Qt::LeftButton);
+        QVERIFY(finished.count() == 1 || finished.wait(10000));
+        auto* differing = window.findChild<QListWidget*>(u"List1"_s);
+        QCOMPARE(differing->count(), 2);
+        QCOMPARE(differing->item(0)->text(), u"GEHAEUSE"_s);
+        QCOMPARE(differing->item(0)->toolTip(), u"Modelle laut Zeichnung: GEHAEUSE.PRT"_s);
+        QCOMPARE(differing->item(1)->text(), u"WELLE"_s);
+        QCOMPARE(differing->item(1)->toolTip(), u"Modelle laut Zeichnung: WELLE.PRT, LAGER.ASM"_s);
     }
 
     void aLongFolderCheckCanBeCancelled() {
