@@ -11,10 +11,16 @@
 #   QUENFOR_BUILD_DIR          build folder holding src/app/quenfor (default: build/)
 #   SCREENSHOT_SCREEN          size of the virtual screen (default: 1280x900)
 #   SCREENSHOT_WHOLE_SCREEN=1  picture of the whole screen instead of the main window
+#   SCREENSHOT_BEFORE=COMMAND  shell command run once the main window is shown, before the picture
+#                              (e.g. xdotool keys that open a tool window); it finds the main
+#                              window's id in $QUENFOR_WINDOW and the program's id in $QUENFOR_PID
+#   SCREENSHOT_WINDOW=TITLE    picture of the quenfor window with this title (e.g. a tool window
+#                              that SCREENSHOT_BEFORE opened) instead of the main window
 #
 # Needs the Debian packages xvfb (Xvfb, xvfb-run), xauth (used by xvfb-run), x11-utils (xwininfo,
-# to find the window) and imagemagick (import). The user's settings are never touched: quenfor
-# runs with a configuration folder of its own that is removed afterwards.
+# to find the window) and imagemagick (import); SCREENSHOT_BEFORE commands usually need xdotool.
+# The user's settings are never touched: quenfor runs with a configuration folder of its own that
+# is removed afterwards.
 set -euo pipefail
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
@@ -58,8 +64,9 @@ XDG_CONFIG_HOME="$scratch/config" XDG_RUNTIME_DIR="$scratch/runtime" QT_QPA_PLAT
 pid=$!
 
 # The biggest top-level window of quenfor that is shown: the main window, not a helper window.
+# With a title, only windows of that title count.
 find_window() {
-    local best="" best_area=0 id size area
+    local title="${1:-}" best="" best_area=0 id size area
     while read -r id size; do
         xwininfo -id "$id" 2>/dev/null | grep -q "Map State: IsViewable" || continue
         area=$(( ${size%x*} * ${size#*x} ))
@@ -67,7 +74,7 @@ find_window() {
             best="$id"
             best_area=$area
         fi
-    done < <(xwininfo -root -children 2>/dev/null |
+    done < <(xwininfo -root -children 2>/dev/null | grep -F "\"$title" |
         sed -n 's/^ *\(0x[0-9a-f]*\) .*(".*quenfor.*)  *\([0-9]*x[0-9]*\)+.*/\1 \2/Ip')
     echo "$best"
 }
@@ -86,6 +93,19 @@ done
 [[ -n "$window" ]] || { echo "Das Fenster von quenfor erschien nicht innerhalb von 20 Sekunden." >&2; exit 1; }
 
 sleep 1 # the first paint of a large file follows the mapping of the window
+if [[ -n "${SCREENSHOT_BEFORE:-}" ]]; then
+    QUENFOR_WINDOW="$window" QUENFOR_PID="$pid" bash -c "$SCREENSHOT_BEFORE"
+fi
+if [[ -n "${SCREENSHOT_WINDOW:-}" ]]; then
+    window=""
+    for _ in $(seq 100); do
+        window="$(find_window "$SCREENSHOT_WINDOW")"
+        [[ -n "$window" ]] && break
+        sleep 0.1
+    done
+    [[ -n "$window" ]] || { echo "Kein Fenster \"$SCREENSHOT_WINDOW\" von quenfor erschien." >&2; exit 1; }
+    sleep 1
+fi
 if [[ "${SCREENSHOT_WHOLE_SCREEN:-0}" == 1 ]]; then
     import -window root "$png"
 else
