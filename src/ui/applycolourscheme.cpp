@@ -2,9 +2,9 @@
 
 #include "settings/colourschemes.h"
 
-#include <QAbstractItemView>
 #include <QColor>
 #include <QPalette>
+#include <QWidget>
 
 namespace quenfor {
 
@@ -16,7 +16,7 @@ QColor toColor(const RgbColour& c) {
 
 } // namespace
 
-bool applyColourScheme(QAbstractItemView* list, const QString& name) {
+bool applyColourScheme(QWidget* list, const QString& name) {
     const std::optional<ColourScheme> scheme = colourScheme(name);
     if (!list || !scheme)
         return false;

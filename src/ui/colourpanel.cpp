@@ -20,8 +20,9 @@ QString cssColour(const RgbColour& c) {
     return QColor(c.red, c.green, c.blue).name();
 }
 
-// The swatch previews its scheme: the scheme's name in the text colour on the background colour.
-QPushButton* makeSwatch(const ColourScheme& scheme, QWidget* parent) {
+} // namespace
+
+QPushButton* makeColourSwatch(const ColourScheme& scheme, QWidget* parent) {
     auto* swatch = new QPushButton(scheme.name, parent);
     swatch->setObjectName(scheme.name);
     swatch->setMinimumSize(88, 40);
@@ -32,8 +33,6 @@ QPushButton* makeSwatch(const ColourScheme& scheme, QWidget* parent) {
                               cssColour(scheme.text), cssColour(scheme.background)));
     return swatch;
 }
-
-} // namespace
 
 ColourPanel::ColourPanel(QWidget* parent) : QFrame(parent), m_schemeLabel(new QLabel(this)) {
     setObjectName(u"Farben"_s);
@@ -49,7 +48,7 @@ ColourPanel::ColourPanel(QWidget* parent) : QFrame(parent), m_schemeLabel(new QL
 
     auto* swatches = new QHBoxLayout;
     for (const QString& name : colourSchemeNames()) {
-        auto* swatch = makeSwatch(*colourScheme(name), this);
+        auto* swatch = makeColourSwatch(*colourScheme(name), this);
         connect(swatch, &QPushButton::clicked, this, [this, name] { choose(name); });
         swatches->addWidget(swatch);
     }

@@ -3,8 +3,15 @@
 #include <QFrame>
 
 class QLabel;
+class QPushButton;
 
 namespace quenfor {
+
+struct ColourScheme;
+
+// A swatch that previews its scheme: the scheme's name in the text colour on the background
+// colour, named after the scheme.
+QPushButton* makeColourSwatch(const ColourScheme& scheme, QWidget* parent);
 
 // The colour panel "Farben": one swatch per colour scheme of the list. Choosing a swatch names the
 // scheme and hides the panel; the window applies the scheme.

@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QTextLayout>
 
 #include <cmath>
@@ -171,6 +172,22 @@ int printDocument(QPrinter& printer, const ConfigDocument& document) {
         document.fileName().isEmpty() ? tr("(ohne Dateinamen)") : QDir::toNativeSeparators(document.fileName());
     printer.setDocName(title);
     return printLines(printer, document.lines(), title);
+}
+
+bool printLinesOnDefaultPrinter(QWidget* parent, const QStringList& lines, const QString& title) {
+    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
+    if (standard.isNull()) {
+        Dialogs::information(parent, tr("Es ist kein Standarddrucker eingerichtet."));
+        return false;
+    }
+    QPrinter printer(standard, QPrinter::HighResolution);
+    printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
+    printer.setDocName(title);
+    if (printLines(printer, lines, title) == 0) {
+        Dialogs::information(parent, tr("Der Drucker konnte nicht angesprochen werden."));
+        return false;
+    }
+    return true;
 }
 
 bool printDocumentWithDialog(QWidget* parent, const ConfigDocument& document) {

@@ -29,6 +29,10 @@ int printLines(QPagedPaintDevice& device, const QStringList& lines, const QStrin
 // Prints the document with its file name as the title of the pages and of the print job.
 int printDocument(QPrinter& printer, const ConfigDocument& document);
 
+// Prints the lines on the default printer without asking which (the caller has asked whether to
+// print at all). False when there is no printer or it failed (the user has then been told).
+bool printLinesOnDefaultPrinter(QWidget* parent, const QStringList& lines, const QString& title);
+
 // Asks for a printer with the system's print dialog and prints the document. False when the
 // user cancelled or the printer failed (the user has then been told).
 bool printDocumentWithDialog(QWidget* parent, const ConfigDocument& document);

@@ -5,6 +5,7 @@
 #include <QPointer>
 
 class QLabel;
+class QLineEdit;
 class QWidget;
 
 namespace quenfor {
@@ -16,6 +17,8 @@ class StatusHints : public QObject {
 
 public:
     explicit StatusHints(QLabel* statusLine, QObject* parent = nullptr);
+    // A status line the user can also type into (the text editor's command entry).
+    explicit StatusHints(QLineEdit* statusLine, QObject* parent = nullptr);
 
     void add(QWidget* widget, const QString& hint);
     QString hintOf(const QWidget* widget) const;
@@ -25,6 +28,7 @@ protected:
 
 private:
     QPointer<QLabel> m_statusLine;
+    QPointer<QLineEdit> m_statusEntry;
     QHash<const QObject*, QString> m_hints;
 };
 
