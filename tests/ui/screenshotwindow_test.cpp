@@ -181,8 +181,9 @@ private slots:
         window->setTargetFolder(m_dir->path());
         QVERIFY(QDir(m_dir->path()).mkdir(u"screenshot_2.bmp"_s));
         click(*window, u"cmd_ScreenShot"_s);
-        QCOMPARE(status(*window), u"Die Datei %1 konnte nicht gespeichert werden: An ihrer Stelle steht ein "
-                                  "Verzeichnis."_s.arg(path(u"screenshot_2.bmp"_s)));
+        QCOMPARE(status(*window),
+                 u"Die Datei %1 konnte nicht gespeichert werden: An ihrer Stelle steht ein "
+                 "Verzeichnis. Die bisherige Datei bleibt unverändert."_s.arg(path(u"screenshot_2.bmp"_s)));
     }
 
     void theWholeScreenShotHidesTheWindowMeanwhile() {
