@@ -67,4 +67,11 @@ bool showFolderInTree(QTreeView* tree, QFileSystemModel* model, const QString& f
     return true;
 }
 
+void keepCurrentFolderInView(QTreeView* tree, QFileSystemModel* model) {
+    QObject::connect(model, &QFileSystemModel::directoryLoaded, tree, [tree] {
+        if (tree->currentIndex().isValid())
+            tree->scrollTo(tree->currentIndex());
+    });
+}
+
 } // namespace quenfor

@@ -28,4 +28,8 @@ QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model);
 // such folder (the window then says so in its own words).
 bool showFolderInTree(QTreeView* tree, QFileSystemModel* model, const QString& folder);
 
+// The model fills the rows above the current folder later, from its own thread, which pushes the
+// folder out of view; this keeps scrolling it back for as long as the tree lives.
+void keepCurrentFolderInView(QTreeView* tree, QFileSystemModel* model);
+
 } // namespace quenfor
