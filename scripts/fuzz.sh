@@ -27,6 +27,8 @@ seeds_for() {
     case "$1" in
         fuzz_drawing_model) echo "$root/tests/data/fuzz/drawings" ;;
         fuzz_purge_versions) echo "$root/tests/data/fuzz/filenames" ;;
+        fuzz_translation_answer) echo "$root/tests/data/fuzz/answers" ;;
+        fuzz_picture_loader) echo "$root/tests/data/fuzz/pictures" ;;
         *) echo "$root/tests/data/document" ;;
     esac
 }

@@ -1,8 +1,38 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with warnings as errors and runs every test, without a display.
+# Installs what is missing, builds with warnings as errors and runs every test without a display:
+# the suite in a normal build, the suite again under AddressSanitizer + UndefinedBehaviorSanitizer,
+# every fuzzer for a short while, and the Debian package installed into a temporary root.
+# QUENFOR_TEST_QUICK=1 runs only the first part (a developer's quick check).
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+build="${QUENFOR_BUILD_DIR:-$root/build}"
+started=$SECONDS
+phase() { printf '\n=== %s (nach %d s)\n' "$1" $((SECONDS - started)); }
+
 "$root/scripts/install-deps.sh"
-"$root/scripts/build.sh" -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON
 export QT_QPA_PLATFORM=offscreen
-ctest --test-dir "${QUENFOR_BUILD_DIR:-$root/build}" --output-on-failure -j "$(nproc)" --timeout 600
+
+phase "Build"
+QUENFOR_BUILD_DIR="$build" "$root/scripts/build.sh" -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON
+phase "Tests"
+ctest --test-dir "$build" --output-on-failure -j "$(nproc)" --timeout 600
+
+if [[ "${QUENFOR_TEST_QUICK:-0}" != 1 ]]; then
+    # Line tables are enough for the sanitizers' reports and keep the build small.
+    phase "Build with AddressSanitizer + UndefinedBehaviorSanitizer"
+    QUENFOR_BUILD_DIR="$build-sanitize" CMAKE_BUILD_TYPE=Debug "$root/scripts/build.sh" \
+        -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON -DQUENFOR_SANITIZE=ON -DQUENFOR_BUILD_BENCH=OFF \
+        -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1"
+    phase "Tests under the sanitizers"
+    ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:strict_string_checks=1:detect_stack_use_after_return=1" \
+        UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1" \
+        LSAN_OPTIONS="suppressions=$root/tests/sanitizers/lsan.supp:print_suppressions=0" \
+        ctest --test-dir "$build-sanitize" --output-on-failure -j "$(nproc)" --timeout 900
+
+    phase "Fuzzers"
+    QUENFOR_FUZZ_BUILD_DIR="$build-fuzz" bash "$root/scripts/fuzz.sh" "${QUENFOR_FUZZ_SECONDS:-20}"
+
+    phase "Debian package"
+    bash "$root/scripts/check-package.sh" "$build"
+fi
+phase "Fertig"

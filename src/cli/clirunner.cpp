@@ -6,6 +6,7 @@
 #include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
 #include "cli/findcommand.h"
+#include "cli/lintcommand.h"
 #include "cli/mapkeycommands.h"
 #include "cli/proposalcommands.h"
 #include "cli/purgecommands.h"
@@ -38,7 +39,7 @@ const QHash<QString, Runner>& toolCommands() {
         {u"proposal"_s, runProposalCommand},   {u"ghost"_s, runGhostCommand},
         {u"searchpro"_s, runSearchProCommand}, {u"purge"_s, runPurgeCommand},
         {u"clean"_s, runCleanCommand},         {u"drwcheck"_s, runDrwCheckCommand},
-        {u"find"_s, runFindCommand},
+        {u"find"_s, runFindCommand},           {u"lint"_s, runLintCommand},
     };
     return commands;
 }

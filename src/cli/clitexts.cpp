@@ -3,6 +3,7 @@
 #include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
 #include "cli/findcommand.h"
+#include "cli/lintcommand.h"
 #include "cli/mapkeycommands.h"
 #include "cli/proposalcommands.h"
 #include "cli/purgecommands.h"
@@ -73,7 +74,9 @@ QString overviewHelp() {
            "Abfragen (UTF-8, eine Angabe je Zeile):\n"
            "  kinds, family, split-mapkey, explain, mapkeys, mapkey-dups, favorite\n\n"
            "Dateien des CAD-Systems:\n"
-           "  purge, clean, drwcheck, find\n\n"_s +
+           "  purge, clean, drwcheck, find\n\n"
+           "Prüfen (Rückgabewert 1 bei Befunden):\n"
+           "  lint\n\n"_s +
            kCommonOptions +
            u"\nRückgabewert: 0 erledigt, 1 nicht möglich (Meldung auf stderr), 2 Aufruf fehlerhaft.\n"_s;
 }
@@ -94,6 +97,8 @@ QString commandHelp(const QString& command) {
         text = drwCheckCommandHelp();
     if (text.isEmpty() && command == u"find")
         text = findCommandHelp();
+    if (text.isEmpty() && command == u"lint")
+        text = lintCommandHelp();
     if (text.isEmpty())
         return {};
     return text + u'\n' + kCommonOptions;

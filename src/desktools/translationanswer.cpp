@@ -15,7 +15,11 @@ QString translationFromAnswer(QByteArrayView answer, const EncodingChoice& choic
     const std::optional<QString> inner = innerTextOfElement(page, u"result_box"_s);
     if (!inner || inner->size() < 2)
         return {};
-    return inner->mid(1, inner->size() - 2);
+    // One line goes in, one line must come out: line breaks of a page that put blocks or a table
+    // into the element (a broken page does that) would shift every later line of the text.
+    QString line = inner->mid(1, inner->size() - 2);
+    line.replace(u"\r\n"_s, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
+    return line;
 }
 
 } // namespace quenfor

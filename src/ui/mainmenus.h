@@ -20,7 +20,4 @@ struct MainMenus {
 
 MainMenus buildMainMenus(QMenuBar* bar);
 
-// Entries whose tool window does not exist yet: disabled, and hovering one says so.
-inline constexpr char16_t kNotAvailableYet[] = u"noch nicht verfügbar";
-
 } // namespace quenfor

@@ -29,13 +29,6 @@ namespace quenfor {
 
 namespace {
 
-// Entries and buttons whose tool window comes with a later part of the program.
-const QStringList kNotYetAvailable = {
-    u"mnuFarbBox"_s, u"mnuArbeitszeit"_s,   u"mnuAscii"_s,      u"mnuNetSend"_s,    u"mnuPictureViewer"_s,
-    u"mnuShooter"_s, u"mnuInterpolation"_s, u"mnuScreenShot"_s, u"mnuTextEditor"_s, u"mnuUeber"_s,
-};
-const QStringList kButtonsNotYetAvailable = {u"cmd_Textedi"_s, u"Image10"_s, u"cmd_Color"_s};
-
 QLabel* makeLabel(const QString& name, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(name);
@@ -52,21 +45,6 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
 
     m_hints = new StatusHints(m_status, this);
     registerMainWindowHints(this, *m_hints);
-    for (const QString& name : kButtonsNotYetAvailable) {
-        if (auto* button = findChild<QAbstractButton*>(name)) {
-            button->setEnabled(false);
-            m_hints->add(button, QString::fromUtf16(kNotAvailableYet));
-        }
-    }
-    for (const QString& name : kNotYetAvailable)
-        m_menus.action(name)->setEnabled(false);
-    for (QMenu* menu : menuBar()->findChildren<QMenu*>()) {
-        connect(menu, &QMenu::hovered, this, [this](QAction* action) {
-            if (!action->isEnabled())
-                setStatus(QString::fromUtf16(kNotAvailableYet));
-        });
-    }
-
     m_folders->registerHints(*m_hints);
     connectMenus();
     connectEditing();
@@ -76,6 +54,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     connectGenerators();
     connectCadFiles();
     connectDeskTools();
+    connectLint();
     showMarked(-1);
 }
 

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class QDockWidget;
 class QLabel;
 class QStackedWidget;
 
@@ -15,6 +16,7 @@ class DrawingCheckerWindow;
 class DuplicateMapkeyWindow;
 class FavoritesPanel;
 class FormOpt;
+class LintPanel;
 class MapkeyListWindow;
 class PathConverterWindow;
 class PurgeWindow;
@@ -65,6 +67,9 @@ private:
     void connectGenerators();
     void connectCadFiles();
     void connectDeskTools();
+    void connectLint();
+    void openTextEditor();
+    void openMessenger();
 
     // Option knowledge
     void explainEntryLine();
@@ -88,7 +93,10 @@ private:
     void resetSettings();
 
     // Files
-    void openFile(const QString& path);
+    // Returns the note shown after the status (lines that end in LF alone), empty when none.
+    QString openFile(const QString& path);
+    // Puts note after the status line's text, once.
+    void appendStatusNote(const QString& note);
     void openLastFile();
     void save();
     void showSearchDialog();
@@ -103,6 +111,9 @@ private:
     void runWholeDocumentTool(const std::function<QString()>& tool);
     void repairFragmentedFile();
     void splitMapkey();
+
+    // The "Prüfen" view, made when first shown
+    void showLintPanel();
 
     ConfigDocument* m_document;
     StatusHints* m_hints = nullptr;
@@ -145,6 +156,8 @@ private:
     QPointer<QWidget> m_asciiTable;
     QPointer<QWidget> m_colourBox;
     QPointer<QWidget> m_about;
+    QDockWidget* m_lintDock = nullptr;
+    LintPanel* m_lintPanel = nullptr;
 };
 
 } // namespace quenfor

@@ -1,5 +1,7 @@
 #include "ui/toolcolumn.h"
 
+#include "lint/linttexts.h"
+
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -24,7 +26,7 @@ const std::initializer_list<ButtonDefinition> kGroups[] = {
     {{u"Image9", u"+"}, {u"img_comment", u"!"}, {u"Image8", u"✗"}, {u"cmd_delAll", u"∅"}},
     {{u"img_up", u"↑"}, {u"ontop", u"⇈"}, {u"copy", u"❐"}, {u"cut", u"✂"}, {u"paste", u"▤"}},
     {{u"img_Leerzeilen", u"¶"}, {u"img_doppelte", u"=="}, {u"img_alphabet", u"AZ"}, {u"img_grossklein", u"Aa"}},
-    {{u"img_vorschlag", u"★"}, {u"img_dmapkeys", u"⌨="}, {u"cmd_listmapkeys", u"⌨"}},
+    {{u"img_vorschlag", u"★"}, {u"img_dmapkeys", u"⌨="}, {u"cmd_listmapkeys", u"⌨"}, {u"cmd_pruefen", u"✓"}},
     {{u"img_save", u""},
      {u"cmd_last", u"↺"},
      {u"cmd_Textedi", u"✎"},
@@ -87,6 +89,7 @@ ContextMenuPanel::ContextMenuPanel(QWidget* parent) : QWidget(parent) {
         {u"cmd_delete", u"Löschen"},
         {u"cmd_blanklines", u"Leerzeilen löschen"},
         {u"cmd_refresh", u"Markierungen aufheben"},
+        {u"cmd_kontext_pruefen", kLintCaption},
         {u"cmd_quit", u"Ausblenden"},
     };
     for (const ButtonDefinition& def : entries) {

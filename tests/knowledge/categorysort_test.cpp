@@ -46,7 +46,8 @@ TEST(CategorySort, MatchesTheLiteralNestedLoop) {
         const int n = rng.bounded(0, 25);
         for (int i = 0; i < n; ++i)
             doc.append(pieces[rng.bounded(pieces.size())]);
-        ASSERT_EQ(sortByCategory(doc, table), testing::literalCategorySort(doc, table)) << doc.join(u'|').toStdString();
+        ASSERT_EQ(sortByCategory(doc, table), quenfor::testing::literalCategorySort(doc, table))
+            << doc.join(u'|').toStdString();
     }
 }
 

@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(label(u"Label1"_s), QDir::toNativeSeparators(m_file));
         QCOMPARE(label(u"lblnumber"_s), u"Nr."_s);
         QCOMPARE(settingValue(Setting::Dir1), QDir::toNativeSeparators(m_dir.path()));
-        QVERIFY(!action(u"mnuArbeitszeit"_s)->isEnabled()); // its window comes later
+        QVERIFY(action(u"mnuArbeitszeit"_s)->isEnabled());
         QVERIFY(action(u"mnuLeerzeilen"_s)->isEnabled());
     }
 
@@ -210,10 +210,9 @@ private slots:
         QCOMPARE(captions.mid(captions.size() - 3),
                  QStringList({u"&Info"_s, u"Über+Q+U+E+N+F+O+R+"_s, u"Temp. Verzeichnis"_s}));
 
-        // An entry whose tool comes later says so instead of doing nothing.
-        auto* menu = m_window->findChild<QMenu*>(u"mnuAllgemein"_s);
-        emit menu->hovered(action(u"mnuArbeitszeit"_s));
-        QCOMPARE(label(u"lblstatus"_s), u"noch nicht verfügbar"_s);
+        // Every entry of the general menu has its tool now.
+        for (QAction* entry : m_window->findChild<QMenu*>(u"mnuAllgemein"_s)->actions())
+            QVERIFY2(entry->isEnabled(), qPrintable(entry->objectName()));
     }
 
     void contextMenuOpensOnTheRightButtonAndHidesOnAClick() {
@@ -239,6 +238,42 @@ private slots:
         QCOMPARE(doc().lines(), QStringList({u"eins"_s, u"zwei"_s, u"drei"_s}));
         QCOMPARE(asked.first(), u"Wollen Sie die Datei %1 vorher speichern ?"_s.arg(m_file));
         QVERIFY(asked.last().startsWith(u"Bitte wenden Sie diese Funktion nur auf einen Text an"_s));
+    }
+
+    // Lines that end in LF alone read as one line; the status line names the tool that splits them,
+    // after the status that opening shows anyway.
+    void openingAFileWithLineFeedsOnlyPointsToTheRepair_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("hint");
+        QTest::newRow("LF only") << QByteArray("eins\nzwei\ndrei\n") << true;
+        QTest::newRow("LF only, no LF at the end") << QByteArray("eins\nzwei") << true;
+        QTest::newRow("CR LF") << QByteArray("eins\r\nzwei\r\ndrei\r\n") << false;
+        QTest::newRow("CR LF with a stray LF") << QByteArray("eins\r\nzw\nei\r\n") << false;
+        QTest::newRow("lone CR") << QByteArray("eins\rzwei\r") << false;
+        QTest::newRow("one line without end") << QByteArray("eins") << false;
+    }
+
+    void openingAFileWithLineFeedsOnlyPointsToTheRepair() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, hint);
+        const QString note =
+            u"Hinweis: Die Zeilen enden nur mit LF; \"fragmentierten Unix Text reparieren\" (Werkzeuge) trennt sie."_s;
+        const QString crlfFile = m_dir.filePath(u"crlf.pro"_s);
+        writeFile(crlfFile, "eins\r\n");
+        writeFile(m_file, bytes);
+
+        // Started with the file: the file type rules have the last word, the note follows them.
+        m_window->startUp({crlfFile});
+        const QString startStatus = label(u"lblstatus"_s);
+        QVERIFY(!startStatus.isEmpty());
+        m_window->startUp({m_file});
+        QCOMPARE(label(u"lblstatus"_s), hint ? startStatus + u" – "_s + note : startStatus);
+
+        // Opened again with the button for the last file: its line count, then the note.
+        setSettingValue(Setting::Label1, m_file);
+        click(u"cmd_last"_s);
+        const QString designed = u"%1 Zeilen gelesen"_s.arg(doc().count());
+        QCOMPARE(label(u"lblstatus"_s), hint ? designed + u" – "_s + note : designed);
     }
 
     void colourSchemeSurvivesARestart() {
@@ -281,6 +316,18 @@ private slots:
         action(u"mnuSuchen"_s)->trigger();
         auto* dialog = m_window->findChild<QWidget*>(u"frm_such"_s);
         QVERIFY(dialog && dialog->isVisible());
+    }
+
+    void screenshotAndShooterOpenOnceFromTheMenu() {
+        for (const auto& [entry, window] :
+             {std::pair{u"mnuScreenShot"_s, u"frmScreenShot"_s}, std::pair{u"mnuShooter"_s, u"frmShooter"_s}}) {
+            QVERIFY(action(entry)->isEnabled());
+            action(entry)->trigger();
+            action(entry)->trigger();
+            const QList<QWidget*> windows = m_window->findChildren<QWidget*>(window);
+            QCOMPARE(windows.size(), 1);
+            QVERIFY(windows.front()->isVisible());
+        }
     }
 
     void closingAsksAndSaves() {
