@@ -7,6 +7,7 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "settings/mainsettings.h"
+#include "settings/storeddrive.h"
 #include "ui/backgroundjob.h"
 #include "ui/folderwidgets.h"
 #include "ui/statushints.h"
@@ -47,19 +48,6 @@ namespace {
 // Often enough to look alive, seldom enough to cost nothing.
 constexpr int kProgressIntervalMs = 100;
 
-// The store keeps a Windows drive as "C:", as it always has.
-QString driveSetting(const QString& root) {
-    if (root.size() == 3 && root[1] == u':')
-        return root.left(2);
-    return root;
-}
-
-QString driveRoot(const QString& drive) {
-    if (drive.size() == 2 && drive[1] == u':')
-        return drive + QDir::separator();
-    return drive;
-}
-
 } // namespace
 
 DrawingCheckerWindow::DrawingCheckerWindow(QWidget* parent)
@@ -99,10 +87,7 @@ void DrawingCheckerWindow::buildWidgets() {
     connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &DrawingCheckerWindow::showCurrentFolder);
     // The rows above the chosen folder arrive later from the model's thread; keep it in view.
-    connect(m_folderModel, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (m_folderTree->currentIndex().isValid())
-            m_folderTree->scrollTo(m_folderTree->currentIndex());
-    });
+    keepCurrentFolderInView(m_folderTree, m_folderModel);
     m_hints->add(m_folderTree, tr("Verzeichnis mit den Zeichnungen wählen"));
 
     m_files = new QListWidget(this);
@@ -198,15 +183,15 @@ void DrawingCheckerWindow::restoreSettings() {
     const DrawingCheckerSettings stored = loadDrawingCheckerSettings();
     if (folderExists(stored.folder))
         setCurrentFolder(stored.folder);
-    else if (folderExists(driveRoot(stored.drive)))
-        setCurrentFolder(driveRoot(stored.drive));
+    else if (folderExists(driveRootOf(stored.drive)))
+        setCurrentFolder(driveRootOf(stored.drive));
     else
         setCurrentFolder(QDir::homePath());
 }
 
 void DrawingCheckerWindow::closeEvent(QCloseEvent* event) {
     cancelCheck();
-    storeDrawingCheckerSettings({m_folder, driveSetting(m_drives->currentText())});
+    storeDrawingCheckerSettings({m_folder, storedDriveOf(m_drives->currentText())});
     QWidget::closeEvent(event);
 }
 

@@ -92,10 +92,7 @@ void PurgeWindow::buildWidgets() {
     m_folderTree->setMinimumWidth(260);
     connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &PurgeWindow::showCurrentFolder);
-    connect(m_folderModel, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (m_folderTree->currentIndex().isValid())
-            m_folderTree->scrollTo(m_folderTree->currentIndex());
-    });
+    keepCurrentFolderInView(m_folderTree, m_folderModel);
     m_fileList = makeList(u"File1"_s, m_files, this);
     connect(m_fileList, &QListView::clicked, this,
             [this](const QModelIndex& index) { showChangeTime(index, m_files, false); });

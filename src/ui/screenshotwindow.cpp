@@ -165,10 +165,7 @@ QGroupBox* ScreenshotWindow::buildFolderFrame() {
     connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ScreenshotWindow::takeFolderFromTree);
     // The model reads folders in the background: the chosen one comes into view once it is there.
-    connect(m_folderModel, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (m_folderTree->currentIndex().isValid())
-            m_folderTree->scrollTo(m_folderTree->currentIndex());
-    });
+    keepCurrentFolderInView(m_folderTree, m_folderModel);
     auto* ok = makeButton(u"cmd_ok"_s, tr("OK"), m_folderFrame);
     connect(ok, &QPushButton::clicked, m_folderFrame, &QWidget::hide);
 

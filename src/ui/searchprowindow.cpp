@@ -86,10 +86,7 @@ void SearchProWindow::buildWidgets() {
     connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SearchProWindow::showCurrentFolder);
     // The rows above the chosen folder arrive later from the model's thread; keep it in view.
-    connect(m_folderModel, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (m_folderTree->currentIndex().isValid())
-            m_folderTree->scrollTo(m_folderTree->currentIndex());
-    });
+    keepCurrentFolderInView(m_folderTree, m_folderModel);
     m_hints->add(m_folderTree, SearchProHints::folderList());
 
     auto* startCaption = new QLabel(tr("Start-Verzeichnis :"), this);

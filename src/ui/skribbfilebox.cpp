@@ -55,10 +55,7 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
     connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SkribbFileBox::showCurrentFolder);
     // Rows above the chosen folder arrive later from the model's thread; keep it in view.
-    connect(m_folderModel, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (m_folderTree->currentIndex().isValid())
-            m_folderTree->scrollTo(m_folderTree->currentIndex());
-    });
+    keepCurrentFolderInView(m_folderTree, m_folderModel);
 
     auto* title = new QLabel(open ? tr("Datei öffnen") : tr("Speichern unter"), this);
     QFont bold = title->font();
