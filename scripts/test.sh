@@ -24,7 +24,7 @@ if [[ "${QUENFOR_TEST_QUICK:-0}" != 1 ]]; then
         -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON -DQUENFOR_SANITIZE=ON -DQUENFOR_BUILD_BENCH=OFF \
         -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1"
     phase "Tests under the sanitizers"
-    ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:strict_string_checks=1:detect_stack_use_after_return=1" \
+    ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:detect_stack_use_after_return=1" \
         UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1" \
         LSAN_OPTIONS="suppressions=$root/tests/sanitizers/lsan.supp:print_suppressions=0" \
         ctest --test-dir "$build-sanitize" --output-on-failure -j "$(nproc)" --timeout 900

@@ -18,11 +18,18 @@ void PictureScroller::watchWheel(QWidget* widget) {
 }
 
 bool PictureScroller::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel)
+    // Only wheel and mouse events touch the area: the others also come while the area is being
+    // destroyed, when it must not be asked for anything.
+    switch (event->type()) {
+    case QEvent::Wheel:
         return scroll(event);
-    if (watched == m_area->viewport())
-        return drag(event);
-    return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        return watched == m_area->viewport() && drag(event);
+    default:
+        return false;
+    }
 }
 
 bool PictureScroller::scroll(QEvent* event) {
