@@ -1,8 +1,13 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with warnings as errors and runs every test without a display:
-# the suite in a normal build, the suite again under AddressSanitizer + UndefinedBehaviorSanitizer,
-# every fuzzer for a short while, and the Debian package installed into a temporary root.
-# QUENFOR_TEST_QUICK=1 runs only the first part (a developer's quick check).
+# Installs what is missing, builds with warnings as errors and runs every test without a display.
+#
+# The whole suite runs under AddressSanitizer + UndefinedBehaviorSanitizer (build-sanitize/), so
+# every test is also a memory and undefined-behaviour check; then every fuzzer runs for a short
+# while, and the program and the command-line tool are built optimised (build/, as start.sh
+# builds them) and installed from their Debian package into a temporary root.
+#
+# QUENFOR_TEST_QUICK=1 instead builds everything optimised in build/ and runs the suite there:
+# the quick loop while developing.
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${QUENFOR_BUILD_DIR:-$root/build}"
@@ -12,27 +17,33 @@ phase() { printf '\n=== %s (nach %d s)\n' "$1" $((SECONDS - started)); }
 "$root/scripts/install-deps.sh"
 export QT_QPA_PLATFORM=offscreen
 
-phase "Build"
-QUENFOR_BUILD_DIR="$build" "$root/scripts/build.sh" -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON
-phase "Tests"
-ctest --test-dir "$build" --output-on-failure -j "$(nproc)" --timeout 600
-
-if [[ "${QUENFOR_TEST_QUICK:-0}" != 1 ]]; then
-    # Line tables are enough for the sanitizers' reports and keep the build small.
-    phase "Build with AddressSanitizer + UndefinedBehaviorSanitizer"
-    QUENFOR_BUILD_DIR="$build-sanitize" CMAKE_BUILD_TYPE=Debug "$root/scripts/build.sh" \
-        -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON -DQUENFOR_SANITIZE=ON -DQUENFOR_BUILD_BENCH=OFF \
-        -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1"
-    phase "Tests under the sanitizers"
-    ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:detect_stack_use_after_return=1" \
-        UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1" \
-        LSAN_OPTIONS="suppressions=$root/tests/sanitizers/lsan.supp:print_suppressions=0" \
-        ctest --test-dir "$build-sanitize" --output-on-failure -j "$(nproc)" --timeout 900
-
-    phase "Fuzzers"
-    QUENFOR_FUZZ_BUILD_DIR="$build-fuzz" bash "$root/scripts/fuzz.sh" "${QUENFOR_FUZZ_SECONDS:-20}"
-
-    phase "Debian package"
-    bash "$root/scripts/check-package.sh" "$build"
+if [[ "${QUENFOR_TEST_QUICK:-0}" == 1 ]]; then
+    phase "Build"
+    QUENFOR_BUILD_DIR="$build" "$root/scripts/build.sh" -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON
+    phase "Tests"
+    ctest --test-dir "$build" --output-on-failure -j "$(nproc)" --timeout 600
+    phase "Fertig"
+    exit 0
 fi
+
+# Line tables are enough for the sanitizers' reports and keep the build small.
+phase "Build with AddressSanitizer + UndefinedBehaviorSanitizer"
+QUENFOR_BUILD_DIR="$build-sanitize" CMAKE_BUILD_TYPE=Debug "$root/scripts/build.sh" \
+    -DQUENFOR_WERROR=ON -DBUILD_TESTING=ON -DQUENFOR_SANITIZE=ON -DQUENFOR_BUILD_BENCH=OFF \
+    -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1"
+phase "Tests under the sanitizers"
+ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:detect_stack_use_after_return=1" \
+    UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1" \
+    LSAN_OPTIONS="suppressions=$root/tests/sanitizers/lsan.supp:print_suppressions=0" \
+    ctest --test-dir "$build-sanitize" --output-on-failure -j "$(nproc)" --timeout 900
+
+phase "Fuzzers"
+QUENFOR_FUZZ_BUILD_DIR="$build-fuzz" bash "$root/scripts/fuzz.sh" "${QUENFOR_FUZZ_SECONDS:-20}"
+
+# Optimised, with warnings as errors (some warnings appear only with optimisation).
+phase "Program and command-line tool, optimised"
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE="${CMAKE_BUILD_TYPE:-RelWithDebInfo}" -DQUENFOR_WERROR=ON >/dev/null
+cmake --build "$build" -j "$(nproc)" --target quenfor quenfor-cli
+phase "Debian package"
+bash "$root/scripts/check-package.sh" "$build"
 phase "Fertig"
