@@ -6,6 +6,7 @@
 #include "desktools/shellstart.h"
 #include "ui/dialogs.h"
 #include "ui/emptyondoubleclick.h"
+#include "ui/formwidgets.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -22,13 +23,6 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 namespace {
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 QString text(const char16_t* caption) {
     return QString::fromUtf16(caption);
@@ -61,13 +55,13 @@ void NetSendWindow::buildWidgets() {
     m_sign->setObjectName(u"Check1"_s);
     m_sign->setToolTip(text(kSignHint));
 
-    auto* sendButton = makeButton(u"Command1"_s, text(kSendCaption), this);
+    auto* sendButton = namedButton(u"Command1"_s, text(kSendCaption), this);
     connect(sendButton, &QPushButton::clicked, this, &NetSendWindow::send);
-    auto* rememberButton = makeButton(u"cmd_merken"_s, text(kRememberCaption), this);
+    auto* rememberButton = namedButton(u"cmd_merken"_s, text(kRememberCaption), this);
     connect(rememberButton, &QPushButton::clicked, this, &NetSendWindow::remember);
-    auto* deleteButton = makeButton(u"delete"_s, text(kDeleteCaption), this);
+    auto* deleteButton = namedButton(u"delete"_s, text(kDeleteCaption), this);
     connect(deleteButton, &QPushButton::clicked, this, &NetSendWindow::deleteSelected);
-    auto* clearButton = makeButton(u"clear"_s, text(kClearCaption), this);
+    auto* clearButton = namedButton(u"clear"_s, text(kClearCaption), this);
     connect(clearButton, &QPushButton::clicked, this, &NetSendWindow::clearAll);
 
     auto* form = new QGridLayout;
@@ -95,7 +89,7 @@ void NetSendWindow::buildWidgets() {
     auto* cannedColumn = new QVBoxLayout;
     cannedColumn->addWidget(new QLabel(text(kCannedCaption), this));
     for (const CannedMessage& canned : cannedMessages()) {
-        auto* button = makeButton(canned.button, canned.caption, this);
+        auto* button = namedButton(canned.button, canned.caption, this);
         button->setToolTip(canned.text);
         connect(button, &QPushButton::clicked, this, [this, message = canned.text] { m_message->setText(message); });
         cannedColumn->addWidget(button);

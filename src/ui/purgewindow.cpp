@@ -11,6 +11,7 @@
 #include "common/pathsplit.h"
 #include "ui/dialogs.h"
 #include "ui/folderwidgets.h"
+#include "ui/formwidgets.h"
 #include "ui/panelheader.h"
 #include "ui/statushints.h"
 
@@ -44,13 +45,6 @@ namespace {
 // Work per timer tick: long enough to get on, short enough that the window never feels stuck.
 constexpr int kSliceMs = 30;
 constexpr qsizetype kFilesPerCheck = 50;
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 QListView* makeList(const QString& name, QStringListModel* model, QWidget* parent) {
     auto* list = new QListView(parent);
@@ -109,16 +103,16 @@ void PurgeWindow::buildWidgets() {
     m_purgeList->setSelectionMode(QAbstractItemView::ExtendedSelection);
     connect(m_purgeList, &QListView::clicked, this,
             [this](const QModelIndex& index) { showChangeTime(index, m_purge, true); });
-    auto* analyseButton = makeButton(u"Command1"_s, tr("analysieren"), this);
+    auto* analyseButton = namedButton(u"Command1"_s, tr("analysieren"), this);
     connect(analyseButton, &QPushButton::clicked, this, &PurgeWindow::analyse);
-    auto* purgeAllButton = makeButton(u"cmd_delAll"_s, tr("purge"), this);
+    auto* purgeAllButton = namedButton(u"cmd_delAll"_s, tr("purge"), this);
     connect(purgeAllButton, &QPushButton::clicked, this, &PurgeWindow::purgeAll);
     m_hints->add(purgeAllButton,
                  tr("löscht alle Dateien im ausgewählten Verzeichniss die eine niedrigere Versionsnummer haben"));
-    auto* purgeSelectedButton = makeButton(u"cmd_delsel"_s, tr("purge selected"), this);
+    auto* purgeSelectedButton = namedButton(u"cmd_delsel"_s, tr("purge selected"), this);
     connect(purgeSelectedButton, &QPushButton::clicked, this, &PurgeWindow::purgeSelected);
     m_hints->add(purgeSelectedButton, tr("löscht nur die ausgewählten Dateien"));
-    auto* purgeTreeButton = makeButton(u"Command2"_s, tr("purge incl. subdirectories"), this);
+    auto* purgeTreeButton = namedButton(u"Command2"_s, tr("purge incl. subdirectories"), this);
     connect(purgeTreeButton, &QPushButton::clicked, this, &PurgeWindow::purgeTree);
     m_hints->add(purgeTreeButton, tr("purged alle Unterverzeichnisse abwärts der gewählten Position"));
     m_askPurge = new QCheckBox(tr("abfragen"), this);
@@ -148,15 +142,15 @@ void PurgeWindow::buildWidgets() {
     m_cleanList = makeList(u"File2"_s, m_cleanFiles, this);
     connect(m_cleanList, &QListView::clicked, this,
             [this](const QModelIndex& index) { showChangeTime(index, m_cleanFiles, false); });
-    auto* cleanButton = makeButton(u"cmd_clean"_s, tr("clean"), this);
+    auto* cleanButton = namedButton(u"cmd_clean"_s, tr("clean"), this);
     connect(cleanButton, &QPushButton::clicked, this, &PurgeWindow::clean);
-    auto* cleanTreeButton = makeButton(u"Command3"_s, tr("clean incl. subdirectories"), this);
+    auto* cleanTreeButton = namedButton(u"Command3"_s, tr("clean incl. subdirectories"), this);
     connect(cleanTreeButton, &QPushButton::clicked, this, &PurgeWindow::cleanTree);
     m_hints->add(cleanTreeButton,
                  tr("reinigt alle Unterverzeichnisse abwärts der gewählten Position von überflüssigen Dateien"));
     m_askClean = new QCheckBox(tr("abfragen"), this);
     m_askClean->setObjectName(u"chkclean"_s);
-    auto* optionsButton = makeButton(u"cmd_what"_s, tr("Endungen"), this);
+    auto* optionsButton = namedButton(u"cmd_what"_s, tr("Endungen"), this);
     connect(optionsButton, &QPushButton::clicked, this, &PurgeWindow::showOptions);
 
     auto* cleanButtons = new QGridLayout;
@@ -179,17 +173,17 @@ void PurgeWindow::buildWidgets() {
     m_progressBar->setObjectName(u"prg_run"_s);
     m_progressText = new QLabel(this);
     m_progressText->setObjectName(u"lbl_progress"_s);
-    m_cancel = makeButton(u"cmd_cancel"_s, tr("Abbrechen"), this);
+    m_cancel = namedButton(u"cmd_cancel"_s, tr("Abbrechen"), this);
     connect(m_cancel, &QPushButton::clicked, this, &PurgeWindow::cancelRun);
 
-    auto* info = makeButton(u"img_info"_s, tr("?"), this);
+    auto* info = namedButton(u"img_info"_s, tr("?"), this);
     m_hints->add(info, tr("info..."));
     connect(info, &QPushButton::clicked, this, [this] {
         Dialogs::information(this, tr("Dr.Fegel löscht von jedem Objekt (name.typ.N) alle Versionen außer der "
                                       "höchsten und reinigt Arbeitsverzeichnisse von Nebenprodukten des "
                                       "CAD-Systems nach der Liste der Endungen."));
     });
-    auto* exitButton = makeButton(u"Image_EXIT"_s, tr("Schließen"), this);
+    auto* exitButton = namedButton(u"Image_EXIT"_s, tr("Schließen"), this);
     connect(exitButton, &QPushButton::clicked, this, &QWidget::close);
 
     auto* columns = new QHBoxLayout;
@@ -223,15 +217,15 @@ QWidget* PurgeWindow::buildOptionsFrame() {
     m_newExtension->setObjectName(u"add"_s);
     m_newExtension->setPlaceholderText(tr("z. B. trl"));
     connect(m_newExtension, &QLineEdit::returnPressed, this, &PurgeWindow::addExtension);
-    auto* addButton = makeButton(u"cmd_add"_s, tr("hinzufügen"), m_optionsFrame);
+    auto* addButton = namedButton(u"cmd_add"_s, tr("hinzufügen"), m_optionsFrame);
     connect(addButton, &QPushButton::clicked, this, &PurgeWindow::addExtension);
-    auto* removeButton = makeButton(u"cmd_weg"_s, tr("entfernen"), m_optionsFrame);
+    auto* removeButton = namedButton(u"cmd_weg"_s, tr("entfernen"), m_optionsFrame);
     connect(removeButton, &QPushButton::clicked, this, &PurgeWindow::removeExtensions);
-    auto* okButton = makeButton(u"cmd_ok"_s, tr("OK"), m_optionsFrame);
+    auto* okButton = namedButton(u"cmd_ok"_s, tr("OK"), m_optionsFrame);
     connect(okButton, &QPushButton::clicked, this, &PurgeWindow::applyOptions);
-    auto* resetButton = makeButton(u"cmd_reset"_s, tr("Reset"), m_optionsFrame);
+    auto* resetButton = namedButton(u"cmd_reset"_s, tr("Reset"), m_optionsFrame);
     connect(resetButton, &QPushButton::clicked, this, &PurgeWindow::resetPatterns);
-    auto* closeButton = makeButton(u"cmd_exOpts"_s, tr("abbrechen"), m_optionsFrame);
+    auto* closeButton = namedButton(u"cmd_exOpts"_s, tr("abbrechen"), m_optionsFrame);
     connect(closeButton, &QPushButton::clicked, this, [this] {
         // Leaving without applying restores the list as it was when the frame opened.
         m_extensions->clear();

@@ -8,6 +8,7 @@
 #include "document/documentfile.h"
 #include "ui/dialogs.h"
 #include "ui/folderwidgets.h"
+#include "ui/formwidgets.h"
 #include "ui/shotfieldvalidator.h"
 #include "ui/statushints.h"
 
@@ -36,13 +37,6 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 namespace {
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 QLineEdit* makeNumberField(const QString& name, QWidget* parent) {
     auto* field = new QLineEdit(parent);
@@ -91,7 +85,7 @@ void ScreenshotWindow::buildWidgets() {
     m_folderLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_folderLabel->setMinimumWidth(120);
     m_folderLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* chooseFolder = makeButton(u"cmdDir"_s, tr("Ordner..."), this);
+    auto* chooseFolder = namedButton(u"cmdDir"_s, tr("Ordner..."), this);
     connect(chooseFolder, &QPushButton::clicked, this, &ScreenshotWindow::showFolderFrame);
     m_hints->add(chooseFolder, tr("Verzeichnis festlegen wo die ScreenShots gespeichert werden sollen."));
 
@@ -114,15 +108,15 @@ void ScreenshotWindow::buildWidgets() {
     folderRow->addWidget(m_folderLabel, 1);
     folderRow->addWidget(chooseFolder);
 
-    auto* shootButton = makeButton(u"cmd_ScreenShot"_s, tr("ScreenShot"), this);
+    auto* shootButton = namedButton(u"cmd_ScreenShot"_s, tr("ScreenShot"), this);
     connect(shootButton, &QPushButton::clicked, this, &ScreenshotWindow::shootRectangle);
     m_hints->add(shootButton, tr("Fotografiert den dargestellten Bildausschnitt. Die Bitmap Datei wird in den "
                                  "eingestellten Ordner abgelegt."));
-    auto* wholeButton = makeButton(u"cmd_All"_s, tr("ganzer Bildschirm"), this);
+    auto* wholeButton = namedButton(u"cmd_All"_s, tr("ganzer Bildschirm"), this);
     connect(wholeButton, &QPushButton::clicked, this, &ScreenshotWindow::shootWholeScreen);
     m_hints->add(wholeButton, tr("Fotografiert den Bildschirm ohne das ScreenShot-Tool. Die Bitmap Datei wird in "
                                  "den eingestellten Ordner abgelegt."));
-    auto* clearButton = makeButton(u"clear"_s, tr("Vorschau leeren"), this);
+    auto* clearButton = namedButton(u"clear"_s, tr("Vorschau leeren"), this);
     connect(clearButton, &QPushButton::clicked, this, &ScreenshotWindow::clearPreview);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(shootButton);
@@ -166,7 +160,7 @@ QGroupBox* ScreenshotWindow::buildFolderFrame() {
             &ScreenshotWindow::takeFolderFromTree);
     // The model reads folders in the background: the chosen one comes into view once it is there.
     keepCurrentFolderInView(m_folderTree, m_folderModel);
-    auto* ok = makeButton(u"cmd_ok"_s, tr("OK"), m_folderFrame);
+    auto* ok = namedButton(u"cmd_ok"_s, tr("OK"), m_folderFrame);
     connect(ok, &QPushButton::clicked, m_folderFrame, &QWidget::hide);
 
     auto* layout = new QVBoxLayout(m_folderFrame);

@@ -6,6 +6,7 @@
 #include "ui/backgroundjob.h"
 #include "ui/dialogs.h"
 #include "ui/folderwidgets.h"
+#include "ui/formwidgets.h"
 #include "ui/panelheader.h"
 #include "ui/statushints.h"
 
@@ -44,13 +45,6 @@ namespace {
 
 // Often enough to look alive, seldom enough to cost nothing.
 constexpr int kProgressIntervalMs = 100;
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 } // namespace
 
@@ -96,7 +90,7 @@ void SearchProWindow::buildWidgets() {
     m_startFolder->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_startFolder->setWordWrap(true);
 
-    m_generate = makeButton(u"Command1"_s, tr("Liste generieren"), this);
+    m_generate = namedButton(u"Command1"_s, tr("Liste generieren"), this);
     connect(m_generate, &QPushButton::clicked, this, &SearchProWindow::generate);
     m_hints->add(m_generate, SearchProHints::generate());
 
@@ -139,22 +133,22 @@ void SearchProWindow::buildWidgets() {
     m_progressBar->setTextVisible(false);
     m_progressText = new QLabel(this);
     m_progressText->setObjectName(u"lbl_progress"_s);
-    m_cancel = makeButton(u"cmd_cancel"_s, tr("Abbrechen"), this);
+    m_cancel = namedButton(u"cmd_cancel"_s, tr("Abbrechen"), this);
     connect(m_cancel, &QPushButton::clicked, this, &SearchProWindow::cancelGeneration);
     auto* progressRow = new QHBoxLayout;
     progressRow->addWidget(m_progressBar, 1);
     progressRow->addWidget(m_progressText);
     progressRow->addWidget(m_cancel);
 
-    m_transferAll = makeButton(u"cmd_toform"_s, tr("Gesamtergebnis in Liste übertragen"), this);
+    m_transferAll = namedButton(u"cmd_toform"_s, tr("Gesamtergebnis in Liste übertragen"), this);
     connect(m_transferAll, &QPushButton::clicked, this, &SearchProWindow::transferAll);
     m_hints->add(m_transferAll, SearchProHints::transferAll());
-    m_transferSelection = makeButton(u"cmd_selectedtoform"_s, tr("Nur Auswahl übertragen"), this);
+    m_transferSelection = namedButton(u"cmd_selectedtoform"_s, tr("Nur Auswahl übertragen"), this);
     connect(m_transferSelection, &QPushButton::clicked, this, &SearchProWindow::transferSelection);
     m_hints->add(m_transferSelection, SearchProHints::transferSelection());
-    m_createFile = makeButton(u"cmd_search_file"_s, tr("Datei search.pro erstellen"), this);
+    m_createFile = namedButton(u"cmd_search_file"_s, tr("Datei search.pro erstellen"), this);
     connect(m_createFile, &QPushButton::clicked, this, &SearchProWindow::chooseFileName);
-    m_saveInfo = makeButton(u"cmd_wodenn"_s, tr("Wo wird die Datei gespeichert?"), this);
+    m_saveInfo = namedButton(u"cmd_wodenn"_s, tr("Wo wird die Datei gespeichert?"), this);
     connect(m_saveInfo, &QPushButton::clicked, this, &SearchProWindow::showSaveInfo);
 
     m_saveInfoText = new QPlainTextEdit(this);
@@ -178,7 +172,7 @@ void SearchProWindow::buildWidgets() {
     right->addLayout(buttons);
     right->addWidget(m_saveInfoText);
 
-    m_close = makeButton(u"Command3"_s, tr("Schließen"), this);
+    m_close = namedButton(u"Command3"_s, tr("Schließen"), this);
     connect(m_close, &QPushButton::clicked, this, &SearchProWindow::closeGenerator);
 
     auto* columns = new QHBoxLayout;

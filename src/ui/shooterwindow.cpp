@@ -4,6 +4,7 @@
 #include "desktools/shootersettings.h"
 #include "ui/dialogs.h"
 #include "ui/folderwidgets.h"
+#include "ui/formwidgets.h"
 #include "ui/statushints.h"
 #include "ui/windowtitle.h"
 
@@ -23,13 +24,6 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 namespace {
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 QToolButton* makeFoldButton(const QString& name, Qt::ArrowType arrow, const QString& caption, QWidget* parent) {
     auto* button = new QToolButton(parent);
@@ -81,10 +75,10 @@ void ShooterWindow::buildWidgets() {
     m_prefix = new QLineEdit(this);
     m_prefix->setObjectName(u"txt_kill"_s);
     m_hints->add(m_prefix, tr("Anfang des Programmnamens, genau so geschrieben: Groß- und Kleinschreibung zählt."));
-    m_kill = makeButton(u"cmd_kill"_s, tr("Start"), this);
+    m_kill = namedButton(u"cmd_kill"_s, tr("Start"), this);
     connect(m_kill, &QPushButton::clicked, this, &ShooterWindow::startHunt);
     m_hints->add(m_kill, tr("Beendet zehnmal in der Sekunde jeden Prozess, dessen Name so beginnt, bis zum Stopp."));
-    m_stop = makeButton(u"cmd_stopkill"_s, tr("Stopp"), this);
+    m_stop = namedButton(u"cmd_stopkill"_s, tr("Stopp"), this);
     connect(m_stop, &QPushButton::clicked, this, &ShooterWindow::stopHunt);
     m_hints->add(m_stop, tr("Hält die Jagd an."));
     m_scans = makeCounter(u"lbl_counter"_s, this);
@@ -121,7 +115,7 @@ QWidget* ShooterWindow::buildListPanel() {
     auto* close = makeFoldButton(u"Image_ZU"_s, Qt::UpArrow, tr("Prozessliste"), m_listPanel);
     connect(close, &QToolButton::clicked, this, [this] { setListOpen(false); });
     m_hints->add(close, tr("Klappt die Liste zu."));
-    auto* refresh = makeButton(u"cmd_refresh"_s, tr("aktualisieren"), m_listPanel);
+    auto* refresh = namedButton(u"cmd_refresh"_s, tr("aktualisieren"), m_listPanel);
     connect(refresh, &QPushButton::clicked, this, &ShooterWindow::refreshList);
     m_hints->add(refresh, tr("Liest die laufenden Prozesse neu ein."));
     m_processes = new QListWidget(m_listPanel);

@@ -5,6 +5,7 @@
 #include "desktools/editorfilelist.h"
 #include "ui/dialogs.h"
 #include "ui/folderwidgets.h"
+#include "ui/formwidgets.h"
 #include "ui/rightbuttondrag.h"
 
 #include <QComboBox>
@@ -25,17 +26,6 @@
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
-
-namespace {
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
-
-} // namespace
 
 SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
     : QFrame(parent), m_mode(mode), m_drives(makeDriveBox(this)), m_folderModel(new QFileSystemModel(this)),
@@ -88,7 +78,7 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
         m_pattern = new QLineEdit(u"*.pro"_s, this);
         m_pattern->setObjectName(u"Filter"_s);
         connect(m_pattern, &QLineEdit::textChanged, this, &SkribbFileBox::refreshFiles);
-        auto* load = makeButton(u"cmdLoad"_s, tr("laden"), this);
+        auto* load = namedButton(u"cmdLoad"_s, tr("laden"), this);
         connect(load, &QPushButton::clicked, this, &SkribbFileBox::requestLoad);
 
         auto* lists = new QGridLayout;
@@ -107,7 +97,7 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
     } else {
         m_name = new QLineEdit(this);
         m_name->setObjectName(u"txt_name"_s);
-        auto* save = makeButton(u"saveas"_s, tr("speichern"), this);
+        auto* save = namedButton(u"saveas"_s, tr("speichern"), this);
         const auto request = [this] { emit saveAsRequested(m_folder, m_name->text()); };
         connect(save, &QPushButton::clicked, this, request);
         connect(m_name, &QLineEdit::returnPressed, this, request);
