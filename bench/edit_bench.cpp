@@ -6,7 +6,7 @@
 #include "document/configdocument.h"
 #include "knowledge/favorites.h"
 #include "knowledge/replacelines.h"
-#include "ui/documentlistmodel.h"
+#include "ui/main/documentlistmodel.h"
 
 #include <QApplication>
 #include <QListView>

@@ -2,7 +2,7 @@
 // window. Run under a display (Xvfb in window_startup.sh): quenfor's users open such files daily.
 #include "document/configdocument.h"
 #include "settings/settingsstore.h"
-#include "ui/mainwindow.h"
+#include "ui/main/mainwindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

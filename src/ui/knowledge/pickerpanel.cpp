@@ -1,0 +1,268 @@
+#include "ui/knowledge/pickerpanel.h"
+
+#include "common/pathsplit.h"
+#include "document/documentfile.h"
+#include "document/filefamily.h"
+#include "knowledge/categories.h"
+#include "knowledge/categorysort.h"
+#include "knowledge/picker.h"
+#include "ui/widgets/bearpicture.h"
+#include "ui/widgets/statushints.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor {
+
+namespace {
+constexpr int kShownSubfolders = 200; // the path display is a glance, not a browser
+} // namespace
+
+QListWidget* PickerPanel::makePickerList(const QString& name) {
+    auto* list = new QListWidget(this);
+    list->setObjectName(name);
+    list->setUniformItemSizes(true);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->hide();
+    connect(list, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { emit entryClicked(item->text()); });
+    connect(list, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem* item) { emit entryDoubleClicked(item->text()); });
+    return list;
+}
+
+PickerPanel::PickerPanel(QWidget* parent)
+    : QWidget(parent), m_optionFrame(new QFrame(this)), m_categories(new QComboBox(m_optionFrame)),
+      m_sourceLabel(new QLabel(this)), m_cfg(makePickerList(u"List2cfg"_s)), m_dtl(makePickerList(u"List2dtl"_s)),
+      m_pcf(makePickerList(u"List2pcf"_s)), m_addFrame(new QFrame(this)),
+      m_allButton(new QPushButton(u"Übernehmen"_s, m_addFrame)), m_knowledge(new QToolButton(this)),
+      m_brain(new QLabel(this)), m_categorySort(new QToolButton(this)), m_searchProFrame(new QFrame(this)),
+      m_searchProButton(new QPushButton(u"search.pro Generator"_s, m_searchProFrame)),
+      m_colorButton(new QPushButton(u"Farbe"_s, this)), m_explain(new QCheckBox(u"ErklärBär"_s, this)),
+      m_knowledgeBase(new QLabel(this)), m_folderFrame(new QFrame(this)), m_folderLabel(new QLabel(m_folderFrame)),
+      m_folderList(new QListWidget(m_folderFrame)) {
+    m_optionFrame->setObjectName(u"Frame1"_s);
+    m_categories->setObjectName(u"combo_kathegorie"_s);
+    m_sourceLabel->setObjectName(u"lbl_quenconfig"_s);
+    m_addFrame->setObjectName(u"frame_hinzu"_s);
+    m_allButton->setObjectName(u"cmdAlle"_s);
+    m_knowledge->setObjectName(u"img_confopts"_s);
+    m_brain->setObjectName(u"img_hirn"_s);
+    m_categorySort->setObjectName(u"img_kathi"_s);
+    m_searchProFrame->setObjectName(u"frame_search_pro"_s);
+    m_searchProButton->setObjectName(u"cmd_searchprogen"_s);
+    m_colorButton->setObjectName(u"cmd_Color"_s);
+    m_explain->setObjectName(u"chk_erklaerbaer"_s);
+    m_knowledgeBase->setObjectName(u"lbl_configopts"_s);
+    m_folderFrame->setObjectName(u"frame_dir"_s);
+    m_knowledgeBase->hide();
+
+    m_categories->addItems(CategoryTable::names());
+    m_sourceLabel->setWordWrap(true);
+    m_sourceLabel->setStyleSheet(u"color: palette(mid);"_s);
+    m_knowledge->setIcon(bearPicture(BearPose::Explaining, 32));
+    m_knowledge->setIconSize(QSize(32, 32));
+    m_knowledge->installEventFilter(this);
+    m_brain->setPixmap(bearPicture(BearPose::Brain, 32));
+    m_brain->setCursor(Qt::PointingHandCursor);
+    m_brain->installEventFilter(this);
+    m_brain->hide();
+    m_categorySort->setText(u"Themen"_s);
+    m_categorySort->setToolButtonStyle(Qt::ToolButtonTextOnly);
+
+    auto* optionLayout = new QVBoxLayout(m_optionFrame);
+    optionLayout->setContentsMargins(0, 0, 0, 0);
+    auto* categoryRow = new QHBoxLayout;
+    categoryRow->addWidget(m_categories, 1);
+    categoryRow->addWidget(m_categorySort);
+    optionLayout->addLayout(categoryRow);
+    auto* addLayout = new QVBoxLayout(m_addFrame);
+    addLayout->setContentsMargins(0, 0, 0, 0);
+    addLayout->addWidget(m_allButton);
+    auto* searchLayout = new QVBoxLayout(m_searchProFrame);
+    searchLayout->setContentsMargins(0, 0, 0, 0);
+    searchLayout->addWidget(m_searchProButton);
+    auto* folderLayout = new QVBoxLayout(m_folderFrame);
+    folderLayout->setContentsMargins(0, 0, 0, 0);
+    folderLayout->addWidget(m_folderLabel);
+    folderLayout->addWidget(m_folderList);
+    m_folderLabel->setWordWrap(true);
+    m_folderList->setMaximumHeight(120);
+    m_folderFrame->hide();
+
+    auto* bearRow = new QHBoxLayout;
+    bearRow->addWidget(m_knowledge);
+    bearRow->addWidget(m_explain, 1);
+    bearRow->addWidget(m_brain);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(bearRow);
+    layout->addWidget(m_optionFrame);
+    layout->addWidget(m_sourceLabel);
+    layout->addWidget(m_cfg, 1);
+    layout->addWidget(m_dtl, 1);
+    layout->addWidget(m_pcf, 1);
+    layout->addWidget(m_addFrame);
+    layout->addWidget(m_folderFrame);
+    layout->addWidget(m_searchProFrame);
+    layout->addWidget(m_colorButton);
+    layout->addStretch(0);
+
+    m_optionFrame->hide();
+    m_searchProFrame->hide();
+    m_colorButton->hide();
+    setMinimumWidth(240);
+
+    connect(m_allButton, &QPushButton::clicked, this, [this] {
+        if (QListWidget* picker = visiblePicker())
+            emit takeOverClicked(picker->objectName());
+    });
+    connect(m_categorySort, &QToolButton::clicked, this, &PickerPanel::sortByCategoryClicked);
+    connect(m_categories, &QComboBox::activated, this, [this](int index) {
+        const QString message = filterByCategory(index);
+        if (!message.isEmpty())
+            emit statusMessage(message);
+    });
+}
+
+void PickerPanel::registerHints(StatusHints& hints) {
+    hints.add(m_cfg, QString::fromUtf16(kConfigPickerHint));
+    hints.add(m_allButton, QString::fromUtf16(kTakeOverHint));
+    hints.add(m_knowledge, QString::fromUtf16(kKnowledgeButtonHint));
+}
+
+QListWidget* PickerPanel::pickerList(const QString& objectName) const {
+    for (QListWidget* list : {m_cfg, m_dtl, m_pcf}) {
+        if (list->objectName() == objectName)
+            return list;
+    }
+    return nullptr;
+}
+
+QListWidget* PickerPanel::visiblePicker() const {
+    for (QListWidget* list : {m_cfg, m_dtl, m_pcf}) {
+        if (!list->isHidden())
+            return list;
+    }
+    return nullptr;
+}
+
+QStringList PickerPanel::entries(const QString& objectName) const {
+    QStringList result;
+    if (QListWidget* list = pickerList(objectName)) {
+        result.reserve(list->count());
+        for (int i = 0; i < list->count(); ++i)
+            result.append(list->item(i)->text());
+    }
+    return result;
+}
+
+QList<int> PickerPanel::selectedRows(const QString& objectName) const {
+    QList<int> rows;
+    if (QListWidget* list = pickerList(objectName)) {
+        for (const QModelIndex& index : list->selectionModel()->selectedRows())
+            rows.append(index.row());
+    }
+    return rows;
+}
+
+QString PickerPanel::knowledgeBasePath() const {
+    return m_knowledgeBase->text();
+}
+
+QString PickerPanel::applyFamily(const FileFamily& family, const QString& dataFolder) {
+    m_dataFolder = dataFolder;
+    for (QListWidget* list : {m_cfg, m_dtl, m_pcf})
+        list->hide();
+    m_optionFrame->setVisible(family.optionFrameVisible);
+    m_categories->setVisible(family.categoryBoxVisible);
+    m_addFrame->setVisible(family.addFrameVisible);
+    m_allButton->setVisible(family.allButtonVisible);
+    m_searchProFrame->setVisible(family.searchProFrameVisible);
+    m_colorButton->setVisible(family.colorButtonVisible);
+    m_sourceLabel->clear();
+
+    QListWidget* picker = pickerList(family.pickerList);
+    if (!picker)
+        return {};
+    picker->setVisible(family.pickerVisible);
+    m_knowledgeBase->setText(joinFolderAndName(dataFolder, family.knowledgeBaseFile));
+    picker->clear();
+    picker->addItems(builtInPickerEntries(family.pickerList));
+
+    m_pickerSource = joinFolderAndName(dataFolder, family.optionListFile);
+    if (!QFileInfo(m_pickerSource).isFile())
+        return {};
+    const ReadResult read = readDocumentFile(m_pickerSource, {});
+    if (!read.ok)
+        return read.error;
+    m_sourceLabel->setText(QDir::toNativeSeparators(m_pickerSource));
+    picker->addItems(read.lines);
+    if (picker == m_cfg)
+        m_categories->setCurrentIndex(0);
+    return family.pickerLoadedStatus();
+}
+
+void PickerPanel::selectCategory(int index) {
+    m_categories->setCurrentIndex(index);
+    filterByCategory(index);
+}
+
+QString PickerPanel::filterByCategory(int index) {
+    m_cfg->clear();
+    if (index > 0) {
+        m_cfg->addItems(CategoryTable::builtIn().strings(index));
+        return {};
+    }
+    const QString source = joinFolderAndName(m_dataFolder, u"quenfor.pro");
+    const ReadResult read = QFileInfo(source).isFile() ? readDocumentFile(source, {}) : ReadResult{};
+    if (!read.ok)
+        return QString::fromUtf16(kPickerSourceMissing);
+    m_cfg->addItems(read.lines);
+    return {};
+}
+
+void PickerPanel::showFolder(const QString& folder) {
+    m_folderFrame->setVisible(!folder.isEmpty());
+    m_folderList->clear();
+    if (folder.isEmpty())
+        return;
+    m_folderLabel->setText(QDir::toNativeSeparators(folder));
+    QStringList subfolders = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    if (subfolders.size() > kShownSubfolders)
+        subfolders.resize(kShownSubfolders);
+    m_folderList->addItems(subfolders);
+}
+
+void PickerPanel::showBrain(bool shown) {
+    m_brain->setVisible(shown);
+}
+
+bool PickerPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_knowledge && event->type() == QEvent::MouseButtonPress) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        if (mouse->button() == Qt::RightButton) {
+            emit brainRequested();
+            return true;
+        }
+        if (mouse->button() == Qt::LeftButton)
+            emit explainClicked();
+    } else if (watched == m_brain && event->type() == QEvent::MouseButtonRelease) {
+        emit brainClicked();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace quenfor

@@ -1,0 +1,98 @@
+#include "ui/main/folderpanel.h"
+
+#include "ui/widgets/panelheader.h"
+
+#include "ui/widgets/statushints.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor {
+
+FolderPanel::FolderPanel(QWidget* parent)
+    : QFrame(parent), m_model(new QFileSystemModel(this)), m_tree(new QTreeView(this)), m_chosen(new QLabel(this)),
+      m_copy(new QPushButton(tr("Pfad kopieren"), this)), m_close(new QPushButton(tr("Ausblenden"), this)) {
+    setObjectName(u"frameDir"_s);
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+
+    // The model reads folders in its own thread, so a huge folder never freezes the window.
+    m_model->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
+    m_model->setRootPath(QString());
+    m_tree->setObjectName(u"tree_dir"_s);
+    m_tree->setModel(m_model);
+    for (int column = 1; column < m_model->columnCount(); ++column)
+        m_tree->hideColumn(column);
+    m_tree->setHeaderHidden(true);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setMinimumSize(320, 16 * fontMetrics().lineSpacing());
+
+    m_chosen->setObjectName(u"lbl_dir"_s);
+    m_chosen->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_chosen->setWordWrap(true);
+    m_copy->setObjectName(u"cmd_browser"_s);
+    m_copy->setEnabled(false);
+    m_close->setObjectName(u"cmd_exit_sp"_s);
+
+    auto* header = makePanelHeader(this, tr("Datei Browser"), m_close, [this] { emit closeRequested(); });
+
+    auto* footer = new QHBoxLayout;
+    footer->addWidget(m_chosen, 1);
+    footer->addWidget(m_copy);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(header);
+    layout->addWidget(m_tree, 1);
+    layout->addLayout(footer);
+
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, &FolderPanel::showChosenFolder);
+    // The rows above the chosen folder arrive later from the model's thread; keep it in view.
+    connect(m_model, &QFileSystemModel::directoryLoaded, this, [this] {
+        if (m_tree->currentIndex().isValid())
+            m_tree->scrollTo(m_tree->currentIndex(), QAbstractItemView::PositionAtCenter);
+    });
+    connect(m_copy, &QPushButton::clicked, this, &FolderPanel::copyChosenFolder);
+}
+
+void FolderPanel::registerHints(StatusHints& hints) {
+    hints.add(m_copy, tr("Pfade mit einem kleinen Browser finden und als Textstring in die Zwischenablage kopieren"));
+    hints.add(m_close, tr("blendet dieses Feld aus"));
+}
+
+void FolderPanel::setFolder(const QString& folder) {
+    const QModelIndex index = m_model->index(folder);
+    if (!index.isValid())
+        return;
+    m_tree->setCurrentIndex(index);
+    m_tree->expand(index);
+    m_tree->scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
+QString FolderPanel::chosenFolder() const {
+    const QModelIndex index = m_tree->currentIndex();
+    return index.isValid() ? QDir::toNativeSeparators(m_model->filePath(index)) : QString();
+}
+
+void FolderPanel::showChosenFolder() {
+    const QString folder = chosenFolder();
+    m_chosen->setText(folder);
+    m_copy->setEnabled(!folder.isEmpty());
+}
+
+void FolderPanel::copyChosenFolder() {
+    const QString folder = chosenFolder();
+    if (!folder.isEmpty())
+        QGuiApplication::clipboard()->setText(folder);
+}
+
+} // namespace quenfor

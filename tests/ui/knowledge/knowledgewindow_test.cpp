@@ -1,0 +1,149 @@
+// The option picker, the Erklär-Bär and the sort by category, driven through the main window.
+#include "document/configdocument.h"
+#include "panelsandbox.h"
+#include "ui/widgets/dialogs.h"
+#include "ui/main/mainwindow.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+using namespace Qt::StringLiterals;
+using namespace quenfor;
+
+namespace {
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+QByteArray readFile(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+} // namespace
+
+class KnowledgeWindowTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_data;
+    QTemporaryDir m_work;
+    std::unique_ptr<MainWindow> m_window;
+    QStringList m_shown;
+
+    ConfigDocument& doc() { return *m_window->document(); }
+    QListWidget* picker() { return m_window->findChild<QListWidget*>(u"List2cfg"_s); }
+    QListView* list() { return m_window->findChild<QListView*>(u"List1"_s); }
+    QPlainTextEdit* panelText() {
+        QWidget* panel = m_window->findChild<QWidget*>(u"frmErklaer"_s);
+        return panel ? panel->findChild<QPlainTextEdit*>(u"Text1"_s) : nullptr;
+    }
+
+    void clickLine(int row) {
+        const QRect rect = list()->visualRect(list()->model()->index(row, 0));
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, rect.center());
+    }
+
+private slots:
+    void initTestCase() {
+        qputenv("QUENFOR_DATA_DIR", QFile::encodeName(m_data.path()));
+        writeFile(m_data.filePath(u"config_opts.txt"_s),
+                  "display  shade | wireframe\r\n  Darstellung der Modelle.\r\n\r\n\r\n\r\n\r\n\r\n");
+        writeFile(m_data.filePath(u"quenfor.pro"_s), "display shade\r\ntrail_dir C:\\temp\r\n");
+    }
+
+    void init() {
+        writeFile(m_work.filePath(u"config.pro"_s), "zzz unbekannt\r\ndisplay wireframe\r\n! Kommentar\r\n");
+        m_shown.clear();
+        Dialogs::setHandler([this](const Dialogs::Request& r) {
+            m_shown.append(r.text);
+            return Dialogs::Reply{r.kind == Dialogs::Kind::Question ? Dialogs::Answer::Yes : Dialogs::Answer::Ok, {}};
+        });
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({m_work.filePath(u"config.pro"_s)});
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void cleanup() {
+        Dialogs::setHandler([](const Dialogs::Request&) { return Dialogs::Reply{Dialogs::Answer::No, {}}; });
+        m_window.reset();
+        Dialogs::setHandler({});
+    }
+
+    void pickerIsFilledFromItsSource() {
+        QCOMPARE(picker()->count(), 2);
+        QCOMPARE(picker()->item(1)->text(), u"trail_dir C:\\temp"_s);
+        QVERIFY(picker()->isVisible());
+    }
+
+    void clickingALineExplainsItWhenTheBearIsOn() {
+        m_window->findChild<QCheckBox*>(u"chk_erklaerbaer"_s)->setChecked(true);
+        clickLine(1);
+        QVERIFY(panelText());
+        QCOMPARE(
+            panelText()->toPlainText(),
+            u"*** Erklärung zur Option: ***\ndisplay  shade | wireframe\n  Darstellung der Modelle.\n\n\n\n\n ..."_s);
+        clickLine(2);
+        QVERIFY(panelText()->toPlainText().startsWith(u"Diese Zeile ist eine Kommentarzeile."_s));
+    }
+
+    void feedingAddsARecordTheNextLookupFinds() {
+        m_window->findChild<QCheckBox*>(u"chk_erklaerbaer"_s)->setChecked(true);
+        clickLine(1);
+        QWidget* panel = m_window->findChild<QWidget*>(u"frmErklaer"_s);
+        QTest::mouseClick(panel->findChild<QLabel*>(u"Image1"_s), Qt::LeftButton);
+        QVERIFY(panelText()->toPlainText().isEmpty());
+        panelText()->setPlainText(u"Bei uns immer wireframe."_s);
+        panel->findChild<QAbstractButton*>(u"plus"_s)->click();
+        QCOMPARE(m_shown.last(), u"Erklärung wurde zum Eintrag hinzugefügt"_s);
+        QVERIFY(readFile(m_data.filePath(u"config_opts.txt"_s))
+                    .endsWith("display wireframe\rBei uns immer wireframe.\r***\r\n"));
+        clickLine(1);
+        QVERIFY(panelText()->toPlainText().contains(u"Bei uns immer wireframe.\n***"_s));
+    }
+
+    void categoryBoxFiltersThePicker() {
+        auto* box = m_window->findChild<QComboBox*>(u"combo_kathegorie"_s);
+        QCOMPARE(box->itemText(0), u"Alles"_s);
+        QCOMPARE(box->count(), 32);
+        const int zeichnung = box->findText(u"Zeichnung"_s);
+        box->setCurrentIndex(zeichnung);
+        emit box->activated(zeichnung);
+        QCOMPARE(picker()->item(0)->text(), u"! ZEICHNUNG"_s);
+        box->setCurrentIndex(0);
+        emit box->activated(0);
+        QCOMPARE(picker()->count(), 2);
+    }
+
+    void takeOverAppendsTheSelectionInListOrder() {
+        picker()->item(1)->setSelected(true);
+        picker()->item(0)->setSelected(true);
+        m_window->findChild<QAbstractButton*>(u"cmdAlle"_s)->click();
+        QCOMPARE(doc().lines().mid(3), QStringList({u"display shade"_s, u"trail_dir C:\\temp"_s}));
+    }
+
+    void sortByCategoryFromTheMenu() {
+        m_window->findChild<QAction*>(u"mnuKategorien"_s)->trigger();
+        QVERIFY(!m_shown.isEmpty());
+        QCOMPARE(m_shown.last(), u"Wollen Sie nun alle Einträge nach Themen sortieren ?"_s);
+        QCOMPARE(doc().line(0), u"! Anwendung -----------------------"_s);
+        QVERIFY(doc().lines().contains(u"! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------"_s));
+        QCOMPARE(doc().lines().last(), u"! Kommentar"_s);
+        QCOMPARE(m_window->findChild<QLabel*>(u"lblnumber"_s)->text(), u"Nr."_s);
+    }
+};
+
+int main(int argc, char** argv) {
+    return runInSettingsSandbox<KnowledgeWindowTest>(argc, argv);
+}
+#include "knowledgewindow_test.moc"

@@ -1,0 +1,118 @@
+// The path converter as its user drives it, over a fed mount table: both conversions, the message
+// instead of an error, the clipboard and the path kept across a close.
+#include "panelsandbox.h"
+
+#include "ui/knowledge/pathconverterwindow.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+using namespace quenfor;
+
+namespace {
+
+PathConverters fedConverters() {
+    return PathConverters::withMounts(parseMountTable("/dev/sda1 / ext4 rw 0 0\n"
+                                                      "//fileserver/cad /mnt/cad cifs rw 0 0\n"));
+}
+
+} // namespace
+
+class PathConverterWindowTest : public QObject {
+    Q_OBJECT
+
+private:
+    template <typename T> static T* child(const PathConverterWindow& window, const QString& name) {
+        auto* widget = window.findChild<T*>(name);
+        if (!widget)
+            qFatal("missing control %s", qPrintable(name));
+        return widget;
+    }
+
+    static void click(const PathConverterWindow& window, const QString& button) {
+        QTest::mouseClick(child<QPushButton>(window, button), Qt::LeftButton);
+    }
+
+private slots:
+    void convertsBothWays() {
+        PathConverterWindow window(nullptr, fedConverters());
+        QCOMPARE(window.windowTitle(), u"Pfad-Umwandlung"_s);
+        auto* path = child<QLineEdit>(window, u"txt_pfad"_s);
+        auto* result = child<QLineEdit>(window, u"txt_ergebnis"_s);
+        auto* message = child<QLabel>(window, u"lbl_meldung"_s);
+        QVERIFY(path->text().isEmpty());
+        QVERIFY(!child<QPushButton>(window, u"cmd_kopieren"_s)->isEnabled());
+
+        path->setText(u"/mnt/cad/parts/bracket.prt.3"_s);
+        click(window, u"cmd_netzwerk"_s);
+        QCOMPARE(result->text(), u"//fileserver/cad/parts/bracket.prt.3"_s);
+        QVERIFY(message->text().isEmpty());
+
+        path->setText(u"\\\\FileServer\\cad\\parts"_s);
+        click(window, u"cmd_laufwerk"_s);
+        QCOMPARE(result->text(), u"/mnt/cad/parts"_s);
+    }
+
+    void aPathThatCannotBeConvertedStaysWithAMessage() {
+        PathConverterWindow window(nullptr, fedConverters());
+        auto* result = child<QLineEdit>(window, u"txt_ergebnis"_s);
+        auto* message = child<QLabel>(window, u"lbl_meldung"_s);
+
+        window.setPath(u"/home/cad/teile"_s);
+        click(window, u"cmd_netzwerk"_s);
+        QCOMPARE(result->text(), u"/home/cad/teile"_s);
+        QCOMPARE(message->text(), u"Der Pfad \"/home/cad/teile\" liegt auf keinem Netzlaufwerk und in keiner "
+                                  u"eingehängten Netzwerkfreigabe. Er bleibt unverändert."_s);
+
+        window.setPath(u"//anderer/server"_s);
+        click(window, u"cmd_laufwerk"_s);
+        QCOMPARE(result->text(), u"//anderer/server"_s);
+        QVERIFY(message->text().startsWith(u"Die Netzwerkfreigabe des Pfades \"//anderer/server\""_s));
+
+        window.setPath(QString());
+        click(window, u"cmd_laufwerk"_s);
+        QCOMPARE(message->text(), u"Bitte geben Sie zuerst einen Pfad ein."_s);
+        QVERIFY(!child<QPushButton>(window, u"cmd_kopieren"_s)->isEnabled());
+    }
+
+    void enterChoosesTheDirectionAndTheResultIsCopied() {
+        PathConverterWindow window(nullptr, fedConverters());
+        window.show();
+        auto* path = child<QLineEdit>(window, u"txt_pfad"_s);
+        path->setText(u"\"//fileserver/cad/a b\""_s);
+        QTest::keyClick(path, Qt::Key_Return);
+        QCOMPARE(window.result(), u"/mnt/cad/a b"_s);
+        QVERIFY(window.isVisible());
+        path->setText(u"/mnt/cad/x"_s);
+        QTest::keyClick(path, Qt::Key_Return);
+        QCOMPARE(window.result(), u"//fileserver/cad/x"_s);
+
+        QGuiApplication::clipboard()->clear();
+        click(window, u"cmd_kopieren"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"//fileserver/cad/x"_s);
+        QCOMPARE(child<QLabel>(window, u"lbl_meldung"_s)->text(), u"Das Ergebnis steht in der Zwischenablage."_s);
+    }
+
+    void theLastPathIsKeptUnderPfadolin() {
+        {
+            PathConverterWindow window(nullptr, fedConverters());
+            window.show();
+            window.setPath(u"/mnt/cad/zuletzt"_s);
+            click(window, u"cmd_exit"_s);
+            QVERIFY(!window.isVisible());
+        }
+        PathConverterWindow again(nullptr, fedConverters());
+        QCOMPARE(again.path(), u"/mnt/cad/zuletzt"_s);
+        QCOMPARE(SettingsStore(u"Pfadolin"_s).value(u"Optionen"_s, u"txt_pfad"_s, QString()), u"/mnt/cad/zuletzt"_s);
+    }
+};
+
+int main(int argc, char** argv) {
+    return runInSettingsSandbox<PathConverterWindowTest>(argc, argv);
+}
+
+#include "pathconverterwindow_test.moc"

@@ -1,0 +1,348 @@
+// Drives the real main window as a user would: clicks, typing, Enter, buttons and menu entries.
+#include "document/configdocument.h"
+#include "panelsandbox.h"
+#include "settings/mainsettings.h"
+#include "settings/settingsstore.h"
+#include "ui/widgets/dialogs.h"
+#include "ui/main/mainwindow.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace Qt::StringLiterals;
+using namespace quenfor;
+
+namespace {
+
+QByteArray readFile(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+} // namespace
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_file;
+    std::unique_ptr<MainWindow> m_window;
+    QStringList m_asked;
+    Dialogs::Answer m_answer = Dialogs::Answer::Yes;
+
+    ConfigDocument& doc() { return *m_window->document(); }
+    QListView* list() { return m_window->findChild<QListView*>(u"List1"_s); }
+    QLineEdit* entry() { return m_window->findChild<QLineEdit*>(u"Text1"_s); }
+    QString label(const QString& name) { return m_window->findChild<QLabel*>(name)->text(); }
+    QAction* action(const QString& name) { return m_window->findChild<QAction*>(name); }
+
+    void click(const QString& buttonName) {
+        auto* button = m_window->findChild<QAbstractButton*>(buttonName);
+        QVERIFY2(button, qPrintable(buttonName));
+        QVERIFY2(button->isEnabled(), qPrintable(buttonName));
+        button->click();
+    }
+
+    void clickLine(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        const QRect rect = list()->visualRect(list()->model()->index(row, 0));
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, rect.center());
+    }
+
+private slots:
+    void init() {
+        m_file = m_dir.filePath(u"config.pro"_s);
+        QByteArray text;
+        for (int i = 0; i < 10; ++i)
+            text += "opt" + QByteArray::number(i) + " wert\r\n";
+        writeFile(m_file, text);
+        m_asked.clear();
+        m_answer = Dialogs::Answer::Yes;
+        Dialogs::setHandler([this](const Dialogs::Request& r) {
+            m_asked.append(r.text);
+            return Dialogs::Reply{m_answer, {}};
+        });
+        m_window = std::make_unique<MainWindow>();
+        m_window->resize(1000, 700);
+        m_window->startUp({u"\""_s + m_file + u"\""_s}); // quotes are taken off
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void cleanup() {
+        m_answer = Dialogs::Answer::No; // do not save the test document on close
+        m_window.reset();
+        Dialogs::setHandler({});
+    }
+
+    void opensTheFileOfTheCommandLine() {
+        QCOMPARE(doc().count(), 10);
+        QCOMPARE(label(u"Label1"_s), QDir::toNativeSeparators(m_file));
+        QCOMPARE(label(u"lblnumber"_s), u"Nr."_s);
+        QCOMPARE(settingValue(Setting::Dir1), QDir::toNativeSeparators(m_dir.path()));
+        QVERIFY(action(u"mnuArbeitszeit"_s)->isEnabled());
+        QVERIFY(action(u"mnuLeerzeilen"_s)->isEnabled());
+    }
+
+    void clickEditAndEnterReplacesTheLine() {
+        clickLine(3);
+        QCOMPARE(entry()->text(), u"opt3 wert"_s);
+        QCOMPARE(label(u"lblnumber"_s), u"3"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"auswählen..."_s);
+        entry()->setText(u"opt3 neu"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        QCOMPARE(doc().line(3), u"opt3 neu"_s);
+        QCOMPARE(doc().count(), 10);
+    }
+
+    void deleteLeavesEmptyLinesAndInsertFillsOrPushes() {
+        clickLine(3);
+        clickLine(5, Qt::ControlModifier);
+        click(u"Image8"_s);
+        QCOMPARE(doc().count(), 10);
+        QVERIFY(doc().line(3).isEmpty());
+        QVERIFY(doc().line(5).isEmpty());
+        QCOMPARE(label(u"lblstatus"_s), u"löschen..."_s);
+
+        clickLine(5);
+        entry()->setText(u"lücke"_s);
+        click(u"Image9"_s);
+        QCOMPARE(doc().line(5), u"lücke"_s); // an empty marked line is filled in place
+
+        clickLine(7);
+        entry()->setText(u"darüber"_s);
+        click(u"Image9"_s);
+        QCOMPARE(doc().line(7), u"darüber"_s);
+        QCOMPARE(doc().line(8), u"opt7 wert"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"Eintrag in Liste eingefügt"_s);
+    }
+
+    void moveToTopKeepsTheOrderAbove() {
+        clickLine(4);
+        click(u"ontop"_s);
+        QCOMPARE(doc().lines().mid(0, 6), QStringList({u"opt4 wert"_s, u"opt0 wert"_s, u"opt1 wert"_s, u"opt2 wert"_s,
+                                                       u"opt3 wert"_s, u"opt5 wert"_s}));
+        click(u"img_up"_s); // already at the top
+        QCOMPARE(doc().line(0), u"opt4 wert"_s);
+    }
+
+    void copyAndPasteThroughTheClipboard() {
+        clickLine(1);
+        clickLine(2, Qt::ControlModifier);
+        click(u"copy"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"opt1 wert\r\nopt2 wert\r\n"_s);
+        click(u"paste"_s);
+        QCOMPARE(doc().count(), 12);
+        QCOMPARE(doc().line(11), u"opt2 wert"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"Zwischenablage eingefügt"_s);
+    }
+
+    void cleanUpToolsFromTheMenu() {
+        doc().appendLine(u"opt1 wert"_s);
+        doc().appendLine(u"  "_s);
+        clickLine(2);
+        action(u"mnuDoppelte"_s)->trigger();
+        QCOMPARE(doc().count(), 11);
+        QCOMPARE(label(u"lblnumber"_s), u"Nr."_s);
+        action(u"mnuLeerzeilen"_s)->trigger();
+        QCOMPARE(doc().count(), 10);
+        doc().appendLine(u"OPT9 GROSS"_s);
+        action(u"mnuGrossKlein"_s)->trigger();
+        QCOMPARE(doc().line(10), u"opt9 gross"_s);
+        action(u"mnuAlphabet"_s)->trigger();
+        QCOMPARE(doc().count(), 10); // the line that sorts first leaves
+        QCOMPARE(doc().line(0), u"opt1 wert"_s);
+    }
+
+    void deleteAllAsksFirst() {
+        m_answer = Dialogs::Answer::No;
+        action(u"mnuAllesLoeschen"_s)->trigger();
+        QCOMPARE(doc().count(), 10);
+        QCOMPARE(m_asked.last(), u"Soll die die kompletten Einträge gelöscht werden ?"_s);
+        m_answer = Dialogs::Answer::Yes;
+        click(u"cmd_delAll"_s);
+        QCOMPARE(doc().count(), 0);
+    }
+
+    void longMapkeyIsSplitByClickingTheWarning() {
+        const QString mapkey = u"mapkey xx @MAPKEY_LABELlang;~ Command `ProCmdOne`;~ Command `ProCmdTwo`;"_s
+                               u"~ Command `ProCmdThree`;~ Command `ProCmdFour`;"_s;
+        doc().appendLine(mapkey);
+        clickLine(10);
+        auto* warning = m_window->findChild<QLabel*>(u"lbl_warn"_s);
+        QVERIFY(warning->isVisible());
+        QCOMPARE(warning->text(), u"mehr als 98 Zeichen in Zeile ! (Umbruch mit \\ trennen)"_s);
+        QTest::mouseClick(warning, Qt::LeftButton);
+        QVERIFY(doc().line(10).endsWith(u'\\'));
+        QVERIFY(doc().line(11).startsWith(u"mapkey(continued) "_s));
+        QCOMPARE(label(u"lblstatus"_s), u"check your mapkey !"_s);
+    }
+
+    void hoverHintsGoToTheStatusLine() {
+        auto* button = m_window->findChild<QAbstractButton*>(u"ontop"_s);
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(button, &enter);
+        QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
+    }
+
+    void menusCarryTheirCaptionsInOrder() {
+        QStringList captions;
+        for (QAction* menuAction : m_window->menuBar()->actions()) {
+            captions.append(menuAction->text());
+            for (QAction* entry : menuAction->menu()->actions())
+                captions.append(entry->text());
+        }
+        QCOMPARE(captions.size(), 5 + 7 + 6 + 13 + 11 + 2);
+        QCOMPARE(captions.mid(0, 8), QStringList({u"&Datei"_s, u"Neu"_s, u"Öffnen"_s, u"Speichern"_s,
+                                                  u"Speichern als..."_s, u"Drucken"_s, u"Purge"_s, u"EXIT"_s}));
+        QVERIFY(captions.contains(u"Ist das Modell auch in der Zeichnung ?"_s));
+        QCOMPARE(captions.mid(captions.size() - 3),
+                 QStringList({u"&Info"_s, u"Über+Q+U+E+N+F+O+R+"_s, u"Temp. Verzeichnis"_s}));
+
+        // Every entry of the general menu has its tool now.
+        for (QAction* entry : m_window->findChild<QMenu*>(u"mnuAllgemein"_s)->actions())
+            QVERIFY2(entry->isEnabled(), qPrintable(entry->objectName()));
+    }
+
+    void contextMenuOpensOnTheRightButtonAndHidesOnAClick() {
+        auto* menu = m_window->findChild<QWidget*>(u"kontextmenue"_s);
+        const QPoint point = list()->visualRect(list()->model()->index(2, 0)).center();
+        QTest::mouseClick(list()->viewport(), Qt::RightButton, {}, point);
+        QVERIFY(menu->isVisible());
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, point);
+        QVERIFY(!menu->isVisible());
+    }
+
+    void repairSplitsAFileThatLostItsLineEnds() {
+        writeFile(m_file, "eins\nzwei\ndrei\n");
+        m_window->startUp({m_file});
+        QCOMPARE(doc().count(), 1);
+        m_answer = Dialogs::Answer::No; // keep the file as it is on disk
+        QStringList asked;
+        Dialogs::setHandler([&](const Dialogs::Request& r) {
+            asked.append(r.text);
+            return Dialogs::Reply{r.kind == Dialogs::Kind::Warning ? Dialogs::Answer::Ok : Dialogs::Answer::No, {}};
+        });
+        action(u"mnuReparieren"_s)->trigger();
+        QCOMPARE(doc().lines(), QStringList({u"eins"_s, u"zwei"_s, u"drei"_s}));
+        QCOMPARE(asked.first(), u"Wollen Sie die Datei %1 vorher speichern ?"_s.arg(m_file));
+        QVERIFY(asked.last().startsWith(u"Bitte wenden Sie diese Funktion nur auf einen Text an"_s));
+    }
+
+    // Lines that end in LF alone read as one line; the status line names the tool that splits them,
+    // after the status that opening shows anyway.
+    void openingAFileWithLineFeedsOnlyPointsToTheRepair_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("hint");
+        QTest::newRow("LF only") << QByteArray("eins\nzwei\ndrei\n") << true;
+        QTest::newRow("LF only, no LF at the end") << QByteArray("eins\nzwei") << true;
+        QTest::newRow("CR LF") << QByteArray("eins\r\nzwei\r\ndrei\r\n") << false;
+        QTest::newRow("CR LF with a stray LF") << QByteArray("eins\r\nzw\nei\r\n") << false;
+        QTest::newRow("lone CR") << QByteArray("eins\rzwei\r") << false;
+        QTest::newRow("one line without end") << QByteArray("eins") << false;
+    }
+
+    void openingAFileWithLineFeedsOnlyPointsToTheRepair() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, hint);
+        const QString note =
+            u"Hinweis: Die Zeilen enden nur mit LF; \"fragmentierten Unix Text reparieren\" (Werkzeuge) trennt sie."_s;
+        const QString crlfFile = m_dir.filePath(u"crlf.pro"_s);
+        writeFile(crlfFile, "eins\r\n");
+        writeFile(m_file, bytes);
+
+        // Started with the file: the file type rules have the last word, the note follows them.
+        m_window->startUp({crlfFile});
+        const QString startStatus = label(u"lblstatus"_s);
+        QVERIFY(!startStatus.isEmpty());
+        m_window->startUp({m_file});
+        QCOMPARE(label(u"lblstatus"_s), hint ? startStatus + u" – "_s + note : startStatus);
+
+        // Opened again with the button for the last file: its line count, then the note.
+        setSettingValue(Setting::Label1, m_file);
+        click(u"cmd_last"_s);
+        const QString designed = u"%1 Zeilen gelesen"_s.arg(doc().count());
+        QCOMPARE(label(u"lblstatus"_s), hint ? designed + u" – "_s + note : designed);
+    }
+
+    void colourSchemeSurvivesARestart() {
+        auto* swatch = m_window->findChild<QAbstractButton*>(u"schwarz"_s);
+        QVERIFY(swatch);
+        action(u"mnuFarben"_s)->trigger();
+        swatch->click();
+        QCOMPARE(label(u"lbl_schwarzweissblau"_s), u"schwarz"_s);
+        m_answer = Dialogs::Answer::No;
+        QVERIFY(m_window->close());
+        QCOMPARE(settingValue(Setting::LblSchwarzweissblau), u"schwarz"_s);
+
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({});
+        QCOMPARE(label(u"lbl_schwarzweissblau"_s), u"schwarz"_s);
+        QCOMPARE(list()->palette().color(QPalette::Base), QColor(Qt::black));
+        setSettingValue(Setting::LblSchwarzweissblau, u"weiss"_s);
+    }
+
+    void missingTemporaryFolderOpensItsFrameAtStart() {
+        setSettingValue(Setting::TxtTempdir, m_dir.filePath(u"gibt-es-nicht"_s));
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({});
+        m_window->show();
+        auto* frame = m_window->findChild<QWidget*>(u"Tempdir"_s);
+        QVERIFY(frame->isVisible());
+        QVERIFY(label(u"lbl_TempDirCheck"_s).startsWith(u"Das angegebene Verzeichnis existiert nicht !"_s));
+        setSettingValue(Setting::TxtTempdir, QDir::tempPath());
+    }
+
+    void resetRemovesTheStoredSettings() {
+        QVERIFY(setSettingValue(Setting::Codepage, u"windows-1250"_s));
+        m_answer = Dialogs::Answer::Yes;
+        click(u"cmd_RegDelTree"_s);
+        QCOMPARE(m_asked.last(), u"Programm-Einstellungen löschen ?"_s);
+        QCOMPARE(settingValue(Setting::Codepage), u"windows-1252"_s);
+    }
+
+    void searchDialogOpensFromTheMenu() {
+        action(u"mnuSuchen"_s)->trigger();
+        auto* dialog = m_window->findChild<QWidget*>(u"frm_such"_s);
+        QVERIFY(dialog && dialog->isVisible());
+    }
+
+    void screenshotAndShooterOpenOnceFromTheMenu() {
+        for (const auto& [entry, window] :
+             {std::pair{u"mnuScreenShot"_s, u"frmScreenShot"_s}, std::pair{u"mnuShooter"_s, u"frmShooter"_s}}) {
+            QVERIFY(action(entry)->isEnabled());
+            action(entry)->trigger();
+            action(entry)->trigger();
+            const QList<QWidget*> windows = m_window->findChildren<QWidget*>(window);
+            QCOMPARE(windows.size(), 1);
+            QVERIFY(windows.front()->isVisible());
+        }
+    }
+
+    void closingAsksAndSaves() {
+        clickLine(0);
+        entry()->setText(u"geändert"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        m_answer = Dialogs::Answer::Yes;
+        QVERIFY(m_window->close());
+        QCOMPARE(m_asked.last(), u"Wollen Sie die Datei %1 speichern ?"_s.arg(m_file));
+        QVERIFY(readFile(m_file).startsWith("ge\xE4ndert\r\nopt1 wert\r\n"));
+        QCOMPARE(settingValue(Setting::Label1), QDir::toNativeSeparators(m_file));
+    }
+};
+
+int main(int argc, char** argv) {
+    return runInSettingsSandbox<MainWindowTest>(argc, argv);
+}
+#include "mainwindow_test.moc"
