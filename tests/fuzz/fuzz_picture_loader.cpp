@@ -3,7 +3,7 @@
 #include "fuzzinput.h"
 
 #include "desktools/pictureloader.h"
-#include "ui/qtpicturedecoder.h"
+#include "ui/desktools/qtpicturedecoder.h"
 
 #include <QFile>
 #include <QGuiApplication>
