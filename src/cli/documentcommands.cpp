@@ -71,7 +71,7 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
     } else if (cmd == u"repair") {
         lines = repairFragmentedText(decodeText(raw, encodingChoiceFor(args)), lines.size());
     }
-    const int status = writeOutput(file, args, io, lines, read.encoding);
+    const int status = writeOutput(file, args, io, lines, read.encoding, read.stamp);
     // Freeing a million strings one by one takes longer than the whole save; the process ends
     // right after this, and the system takes the memory back at once.
     static QStringList* const kept = new QStringList;

@@ -19,10 +19,10 @@ ReadResult readInput(const QString& file, const CliArgs& args, const CliStreams&
 }
 
 int writeOutput(const QString& file, const CliArgs& args, const CliStreams& io, const QStringList& lines,
-                const TextEncoding& encoding) {
+                const TextEncoding& encoding, const std::optional<FileStamp>& readAs) {
     WriteResult result;
     if (args.inPlace)
-        result = writeDocumentFile(file, lines, encoding);
+        result = writeDocumentFile(file, lines, encoding, readAs);
     else if (args.outFile)
         result = writeDocumentFile(*args.outFile, lines, encoding);
     else

@@ -17,9 +17,10 @@ EncodingChoice encodingChoiceFor(const CliArgs& args);
 ReadResult readInput(const QString& file, const CliArgs& args, const CliStreams& io);
 
 // Writes the lines like a save: back to `file` with -i, to -o's file, else to standard output.
-// Reports failures and the "?" warning; returns the exit status.
+// Reports failures and the "?" warning; returns the exit status. With -i, `readAs` is the file as
+// it was read: if another program changed it since, it is not overwritten.
 int writeOutput(const QString& file, const CliArgs& args, const CliStreams& io, const QStringList& lines,
-                const TextEncoding& encoding);
+                const TextEncoding& encoding, const std::optional<FileStamp>& readAs = std::nullopt);
 
 // Prints "Aufruf: quenfor-cli " + synopsis and returns the usage status.
 int usage(const CliStreams& io, const QString& synopsis);

@@ -42,7 +42,7 @@ int runReplaceCommand(const CliArgs& args, const CliStreams& io) {
     ConfigDocument document;
     document.replaceAll(std::move(read.lines));
     const int count = replaceInDocument(document, args.positional.at(0), args.positional.at(1));
-    const int status = writeOutput(file, args, io, document.lines(), read.encoding);
+    const int status = writeOutput(file, args, io, document.lines(), read.encoding, read.stamp);
     if (status == kOk)
         io.message(QString::number(count) + u' ' + QString::fromUtf16(kReplacedWord));
     return status;

@@ -33,16 +33,18 @@ int appendToDocument(const CliArgs& args, const CliStreams& io, const QString& s
 
     ConfigDocument doc;
     TextEncoding encoding = TextEncoding::codepageNamed(encodingChoiceFor(args).codepage);
+    std::optional<FileStamp> readAs;
     if (!file.isEmpty()) {
         ReadResult read = readInput(file, args, io);
         if (!read.ok)
             return kFailed;
         doc.replaceAll(std::move(read.lines));
         encoding = read.encoding;
+        readAs = read.stamp;
     }
     tool(doc, answerYes);
 
-    return writeOutput(file, args, io, doc.lines(), encoding);
+    return writeOutput(file, args, io, doc.lines(), encoding, readAs);
 }
 
 } // namespace

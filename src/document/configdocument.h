@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/safefilewrite.h"
 #include "document/textencoding.h"
 
 #include <QObject>
@@ -52,9 +53,16 @@ public:
 
     // The file this document belongs to (the window's Label1) and how it is encoded.
     const QString& fileName() const { return m_fileName; }
-    void setFileName(const QString& name) { m_fileName = name; }
+    void setFileName(const QString& name) {
+        if (name != m_fileName)
+            m_diskStamp.reset(); // the stamp belongs to the old file
+        m_fileName = name;
+    }
     const TextEncoding& encoding() const { return m_encoding; }
     void setEncoding(const TextEncoding& encoding) { m_encoding = encoding; }
+    // The file as it was read or last saved, so a save notices another program's change.
+    const std::optional<FileStamp>& diskStamp() const { return m_diskStamp; }
+    void setDiskStamp(const std::optional<FileStamp>& stamp) { m_diskStamp = stamp; }
 
 signals:
     void aboutToBeReset();
@@ -78,6 +86,7 @@ private:
     int m_marked = -1;
     QString m_fileName;
     TextEncoding m_encoding;
+    std::optional<FileStamp> m_diskStamp;
 };
 
 } // namespace quenfor

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -194,28 +193,6 @@ QString saveErrorText(const QString& path, const QString& reason) {
         nativePath(path), reason);
 }
 
-QString reasonForErrno(int err, const QString& fallback) {
-    switch (err) {
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return u"Es fehlen die Schreibrechte."_s;
-    case ENOSPC:
-        return u"Der Datenträger ist voll."_s;
-    case EDQUOT:
-        return u"Das Speicherkontingent ist erschöpft."_s;
-    case EFBIG:
-        return u"Die zulässige Dateigröße ist überschritten."_s;
-    case EISDIR:
-        return u"An ihrer Stelle steht ein Verzeichnis."_s;
-    case ENOENT:
-    case ENOTDIR:
-        return u"Das Verzeichnis existiert nicht."_s;
-    default:
-        return fallback + u'.';
-    }
-}
-
 // Encodes the lines piece by piece, so a large document never exists twice in memory.
 template <typename Write>
 bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& unrepresentable, Write&& write) {
@@ -243,6 +220,8 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         result.error = readErrorText(path, file, err);
         return result;
     }
+
+    const std::optional<FileStamp> stamp = fileStampOf(path);
 
     // First pass: which encoding. The second pass decodes; the file is in the cache by then.
     StreamingUtf8Check check;
@@ -280,6 +259,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
     const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
     ReadResult result = readStream(file, encoding, skipMark ? kMarkSize : 0, lineEnds + 1);
     result.lineFeedsOnly = result.ok && lineEnds == 0 && lineFeeds;
+    result.stamp = stamp;
     return result;
 }
 
@@ -333,43 +313,24 @@ QString WriteResult::warning(const TextEncoding& encoding) const {
 
 namespace {
 
-// Replaces the file atomically with what fill writes: a save that fails at any point leaves the
-// previous file byte for byte as it was. fill returns false on a failed write and leaves errno in
-// writeErrno. False with the German error text on failure.
-template <typename Fill> bool saveReplacing(const QString& path, QString& error, Fill&& fill) {
-    const QFileInfo info(path);
-    if (info.isDir()) {
-        error = saveErrorText(path, u"An ihrer Stelle steht ein Verzeichnis."_s);
-        return false;
-    }
-    if (!info.absoluteDir().exists()) {
-        error = saveErrorText(path, u"Das Verzeichnis %1 existiert nicht."_s.arg(nativePath(info.absolutePath())));
-        return false;
-    }
-
-    QSaveFile file(path);
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly)) {
-        error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
-        return false;
-    }
-    int writeErrno = 0;
-    if (!fill(file, writeErrno)) {
-        file.cancelWriting();
-        error = saveErrorText(path, reasonForErrno(writeErrno, file.errorString()));
-        return false;
-    }
-    errno = 0;
-    if (!file.commit()) {
-        error = saveErrorText(path, reasonForErrno(errno, file.errorString()));
-        return false;
-    }
-    return true;
+// Replaces the file with what fill writes, safely (see SafeFileWrite). False with the German
+// error text on failure.
+template <typename Fill>
+bool saveReplacing(const QString& path, const std::optional<FileStamp>& readAs, WriteResult& result, Fill&& fill) {
+    SafeFileWrite file(path);
+    if (readAs)
+        file.expectUnchanged(*readAs);
+    if (file.open() && fill(file) && file.commit())
+        return true;
+    result.changedOnDisk = file.changedOnDisk();
+    result.error = saveErrorText(path, file.reason());
+    return false;
 }
 
 } // namespace
 
-WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding) {
+WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding,
+                              const std::optional<FileStamp>& readAs) {
     WriteResult result;
     QString error;
     const auto codec = LineCodec::create(encoding, &error);
@@ -377,29 +338,19 @@ WriteResult writeDocumentFile(const QString& path, const QStringList& lines, con
         result.error = saveErrorText(path, error);
         return result;
     }
-    result.ok = saveReplacing(path, result.error, [&](QSaveFile& file, int& writeErrno) {
-        if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
-            file.write(kUtf8Mark, kMarkSize);
-        return encodeLines(lines, *codec, result.unrepresentable, [&](const QByteArray& bytes) {
-            errno = 0;
-            if (file.write(bytes) == bytes.size())
-                return true;
-            writeErrno = errno;
+    result.ok = saveReplacing(path, readAs, result, [&](SafeFileWrite& file) {
+        if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark && !file.write(kUtf8Mark, kMarkSize))
             return false;
-        });
+        return encodeLines(lines, *codec, result.unrepresentable,
+                           [&](const QByteArray& bytes) { return file.write(bytes.constData(), bytes.size()); });
     });
     return result;
 }
 
 WriteResult writeBinaryFile(const QString& path, QByteArrayView bytes) {
     WriteResult result;
-    result.ok = saveReplacing(path, result.error, [&](QSaveFile& file, int& writeErrno) {
-        errno = 0;
-        if (file.write(bytes.data(), bytes.size()) == bytes.size())
-            return true;
-        writeErrno = errno;
-        return false;
-    });
+    result.ok = saveReplacing(path, std::nullopt, result,
+                              [&](SafeFileWrite& file) { return file.write(bytes.data(), bytes.size()); });
     return result;
 }
 
@@ -411,8 +362,11 @@ WriteResult writeDocument(QIODevice& device, const QStringList& lines, const Tex
         result.error = error;
         return result;
     }
-    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark)
-        device.write(kUtf8Mark, kMarkSize);
+    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark
+        && device.write(kUtf8Mark, kMarkSize) != kMarkSize) {
+        result.error = u"Schreibfehler: %1"_s.arg(device.errorString());
+        return result;
+    }
     const bool written = encodeLines(lines, *codec, result.unrepresentable,
                                      [&](const QByteArray& bytes) { return device.write(bytes) == bytes.size(); });
     if (!written) {

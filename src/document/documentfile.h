@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/safefilewrite.h"
 #include "document/textencoding.h"
 
 #include <QByteArrayView>
@@ -23,6 +24,8 @@ struct ReadResult {
     // The file holds line feeds but no carriage return at all: its lines end in LF alone, so it
     // was read as one line.
     bool lineFeedsOnly = false;
+    // The state of the file as it was read; a save checks it is still the same.
+    std::optional<FileStamp> stamp;
 };
 
 // Reads a file into lines by the reader's line rule, decoded as the encoding rule decides.
@@ -41,13 +44,16 @@ struct WriteResult {
     bool ok = false;
     QString error;                 // German, for the user; the previous file is then untouched
     qsizetype unrepresentable = 0; // characters the encoding could not hold, written as "?"
+    bool changedOnDisk = false;    // refused: another program changed the file since it was read
 
     QString warning(const TextEncoding& encoding) const;
 };
 
 // Writes every line encoded and followed by CR LF. The file is replaced atomically: a save that
-// fails at any point leaves the previous file byte for byte as it was, and its permissions stay.
-WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding);
+// fails at any point leaves the previous file byte for byte as it was, and its owner, permissions,
+// attributes and hard links stay. With `readAs`, a file that changed on disk since then is refused.
+WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding,
+                              const std::optional<FileStamp>& readAs = std::nullopt);
 
 // Writes the bytes as they are (a picture), replaced atomically in the same way.
 WriteResult writeBinaryFile(const QString& path, QByteArrayView bytes);

@@ -20,6 +20,7 @@ StorageResult fromWrite(const WriteResult& written, const TextEncoding& encoding
         result.warning = written.warning(encoding);
     } else {
         result.error = written.error;
+        result.changedOnDisk = written.changedOnDisk;
     }
     return result;
 }
@@ -58,6 +59,7 @@ StorageResult openDocument(ConfigDocument& doc, const QString& path, const Encod
     doc.replaceAll(std::move(read.lines));
     doc.setFileName(QFileInfo(path).absoluteFilePath());
     doc.setEncoding(read.encoding);
+    doc.setDiskStamp(read.stamp);
     result.ok = true;
     result.status = fileFamilyOf(path).pickerLoadedStatus();
     if (read.lineFeedsOnly)
@@ -65,19 +67,26 @@ StorageResult openDocument(ConfigDocument& doc, const QString& path, const Encod
     return result;
 }
 
-StorageResult saveDocument(ConfigDocument& doc, const QString& programDir) {
+StorageResult saveDocument(ConfigDocument& doc, const QString& programDir, OthersChanges others) {
     const QString target = saveTargetFor(doc.fileName(), programDir);
-    const WriteResult written = writeDocumentFile(target, doc.lines(), doc.encoding());
-    if (written.ok)
+    const bool sameFile = !doc.fileName().isEmpty() && target == doc.fileName();
+    const std::optional<FileStamp> readAs =
+        sameFile && others == OthersChanges::Keep ? doc.diskStamp() : std::optional<FileStamp>();
+    const WriteResult written = writeDocumentFile(target, doc.lines(), doc.encoding(), readAs);
+    if (written.ok) {
         doc.setFileName(target);
+        doc.setDiskStamp(fileStampOf(target));
+    }
     return fromWrite(written, doc.encoding(), u"Datei wurde gespeichert"_s);
 }
 
 StorageResult saveDocumentAs(ConfigDocument& doc, const QString& folder, const QString& name) {
     const QString target = chooserPath(folder, name);
     const WriteResult written = writeDocumentFile(target, doc.lines(), doc.encoding());
-    if (written.ok)
+    if (written.ok) {
         doc.setFileName(target);
+        doc.setDiskStamp(fileStampOf(target));
+    }
     return fromWrite(written, doc.encoding(), u"Datei wurde gespeichert"_s);
 }
 

@@ -17,7 +17,11 @@ struct StorageResult {
     QString error;   // message box text on failure
     QString warning; // success with a caveat (characters that became "?")
     QString hint;    // opening: a note to show after the status (lines that end in LF alone)
+    bool changedOnDisk = false; // saving refused: another program changed the file since it was read
 };
+
+// Whether a save may overwrite a change that another program made to the file since it was read.
+enum class OthersChanges { Keep, Overwrite };
 
 inline constexpr char16_t kChooseFileFirst[] = u"Zuerst Datei auswählen !";
 inline constexpr char16_t kReadingStatus[] = u"Datei lesen...";
@@ -39,7 +43,8 @@ QString saveTargetFor(const QString& fileName, const QString& programDir);
 // Replaces the document by the file's lines; the document keeps its lines when reading fails.
 StorageResult openDocument(ConfigDocument& doc, const QString& path, const EncodingChoice& choice);
 
-StorageResult saveDocument(ConfigDocument& doc, const QString& programDir);
+StorageResult saveDocument(ConfigDocument& doc, const QString& programDir,
+                           OthersChanges others = OthersChanges::Keep);
 // Saves to the chooser's folder and name; the document then belongs to the new file.
 StorageResult saveDocumentAs(ConfigDocument& doc, const QString& folder, const QString& name);
 // Writes the same bytes to another file; the document stays with its own file.

@@ -1,9 +1,10 @@
 #include "knowledge/knowledgebase.h"
 
+#include "common/safefilewrite.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <cstring>
 #include <vector>
@@ -112,6 +113,7 @@ AppendResult appendKnowledgeRecord(const QString& path, const QString& entryLine
     AppendResult result;
     QByteArray existing;
     TextEncoding encoding = TextEncoding::codepageNamed(choice.codepage);
+    const std::optional<FileStamp> readAs = fileStampOf(path);
     if (QFileInfo::exists(path)) {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly)) {
@@ -136,10 +138,12 @@ AppendResult appendKnowledgeRecord(const QString& path, const QString& entryLine
     qsizetype unrepresentable = 0;
     codec->encodeAppend(record, bytes, unrepresentable);
 
-    QSaveFile out(path);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
+    SafeFileWrite out(path);
+    if (readAs)
+        out.expectUnchanged(*readAs);
+    if (!out.open() || !out.write(bytes.constData(), bytes.size()) || !out.commit()) {
         result.error = u"Die Erklärung konnte nicht in %1 gespeichert werden: %2"_s.arg(QDir::toNativeSeparators(path),
-                                                                                        out.errorString());
+                                                                                        out.reason());
         return result;
     }
     result.ok = true;

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
 
@@ -16,13 +17,14 @@ bool isFolder(const QString& path) {
     return !path.isEmpty() && QFileInfo(path).isDir();
 }
 
-// Writes, closes and deletes a small file, as the later temporary files will be. The file is
-// deleted whenever it was created, also when writing it failed.
+// Writes, closes and deletes a small file, as the later temporary files will be. The file gets a
+// new unique name and is created exclusively, so a file or link planted in the folder is never
+// written through; it is deleted whenever it was created, also when writing it failed.
 bool takesTestFile(const QString& folder) {
-    QFile probe(folder + u"quenfor.tmp"_s);
-    if (!probe.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    QTemporaryFile probe(folder + u"quenfor-XXXXXX.tmp"_s);
+    probe.setAutoRemove(false);
+    if (!probe.open())
         return false;
-    }
     const QByteArray content = "tmp\r\n";
     const bool written = probe.write(content) == content.size() && probe.flush();
     probe.close();

@@ -12,6 +12,7 @@
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -153,6 +154,165 @@ TEST_F(SaveFailureTest, SaveKeepsThePermissionBits) {
     struct stat info {};
     ASSERT_EQ(stat(file.constData(), &info), 0);
     EXPECT_EQ(info.st_mode & 07777, mode_t(0640));
+}
+
+// The last bytes of a save live in a buffer until the end: a limit that hits anywhere, the very
+// last byte included, must fail the save and keep the old file, never commit a cut one.
+TEST_F(SaveFailureTest, SizeLimitAtAnyByteFailsTheSaveOrWritesItAll) {
+    for (const int lines : {1, 7, 300, 1500, 90000}) {
+        QStringList document;
+        for (int i = 0; i < lines; ++i)
+            document.append(u"opt_%1 wert_%1"_s.arg(i));
+        QByteArray expected;
+        for (const QString& line : document)
+            expected += line.toLatin1() + "\r\n";
+        const rlim_t size = rlim_t(expected.size());
+        std::vector<rlim_t> limits;
+        if (size <= 200) {
+            for (rlim_t limit = 1; limit <= size + 2; ++limit)
+                limits.push_back(limit);
+        } else {
+            limits = {1, 2, 1023, 1024, 16383, 16384, 16385, size / 2, size - 16385, size - 16384, size - 2,
+                      size - 1, size, size + 1};
+        }
+        for (const rlim_t limit : limits) {
+            SCOPED_TRACE(QByteArray::number(expected.size()) + " bytes, limit " + QByteArray::number(qint64(limit)));
+            ASSERT_TRUE(writeBytes(target(), oldBytes));
+            int exitCode = -1;
+            const QString error =
+                saveInChild([&] { return writeDocumentFile(target(), document, cp1252); }, limit, false, &exitCode);
+            if (limit >= size) {
+                ASSERT_EQ(exitCode, 1) << error.toStdString();
+                EXPECT_EQ(readBytes(target()), expected);
+            } else {
+                ASSERT_EQ(exitCode, 0) << "a cut save was reported as done";
+                expectOldFileKept(error, u"Die zulässige Dateigröße ist überschritten."_s);
+            }
+        }
+    }
+}
+
+// A FIFO, device or socket under the name is not a file to replace: a save onto it must leave it
+// what it is, also when a link leads there.
+TEST_F(SaveFailureTest, OnlyRegularFilesAreReplaced) {
+    const QString fifo = m_dir.path() + u"/pipe.pro"_s;
+    ASSERT_EQ(mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+    const QString link = m_dir.path() + u"/link.pro"_s;
+    ASSERT_TRUE(QFile::link(fifo, link));
+    for (const QString& path : {fifo, link}) {
+        SCOPED_TRACE(path.toStdString());
+        const WriteResult result = writeDocumentFile(path, {u"neu"_s}, cp1252);
+        EXPECT_FALSE(result.ok);
+        EXPECT_TRUE(result.error.contains(u"keine gewöhnliche Datei"_s)) << result.error.toStdString();
+        struct stat info {};
+        ASSERT_EQ(lstat(QFile::encodeName(fifo).constData(), &info), 0);
+        EXPECT_TRUE(S_ISFIFO(info.st_mode));
+    }
+    EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+              (QStringList{u"cad"_s, u"link.pro"_s, u"pipe.pro"_s}));
+}
+
+// A link that someone else planted in a folder everybody may write to (/tmp) is not followed, as
+// the kernel would not follow it either; our own link elsewhere is, and stays a link.
+TEST_F(SaveFailureTest, LinksAreFollowedOnlyWhereTheKernelWouldFollowThem) {
+    const QString own = m_dir.path() + u"/own-link.pro"_s;
+    ASSERT_TRUE(QFile::link(target(), own));
+    const WriteResult followed = writeDocumentFile(own, {u"neu"_s}, cp1252);
+    ASSERT_TRUE(followed.ok) << followed.error.toStdString();
+    EXPECT_TRUE(QFileInfo(own).isSymLink());
+    EXPECT_EQ(readBytes(target()), QByteArray("neu\r\n"));
+
+    if (geteuid() != 0)
+        GTEST_SKIP() << "a link owned by another user can only be made as root";
+    const QString shared = m_dir.path() + u"/shared"_s;
+    const QByteArray sharedName = QFile::encodeName(shared);
+    ASSERT_EQ(mkdir(sharedName.constData(), 0777), 0);
+    ASSERT_EQ(chmod(sharedName.constData(), 01777), 0);
+    const QString planted = shared + u"/config.pro"_s;
+    ASSERT_TRUE(QFile::link(target(), planted));
+    ASSERT_EQ(lchown(QFile::encodeName(planted).constData(), 65534, 65534), 0);
+
+    const WriteResult refused = writeDocumentFile(planted, {u"fremd"_s}, cp1252);
+    EXPECT_FALSE(refused.ok);
+    EXPECT_TRUE(refused.error.contains(u"symbolische Verknüpfung"_s)) << refused.error.toStdString();
+    EXPECT_EQ(readBytes(target()), QByteArray("neu\r\n"));
+}
+
+// A save changes the content only: owner, group, mode, extended attributes and every hard link of
+// the file stay as they were.
+TEST_F(SaveFailureTest, OwnerModeAttributesAndHardLinksStay) {
+    const QByteArray file = QFile::encodeName(target());
+    const QByteArray second = QFile::encodeName(m_dir.path() + u"/zweiter-name.pro"_s);
+    ASSERT_EQ(link(file.constData(), second.constData()), 0);
+    ASSERT_EQ(chmod(file.constData(), 0640), 0);
+    const bool root = geteuid() == 0;
+    if (root)
+        ASSERT_EQ(chown(file.constData(), 65534, 65534), 0);
+    const bool attributes = setxattr(file.constData(), "user.quenfor", "42", 2, 0) == 0;
+    struct stat before {};
+    ASSERT_EQ(stat(file.constData(), &before), 0);
+
+    const WriteResult result = writeDocumentFile(target(), {u"neu"_s}, cp1252);
+    ASSERT_TRUE(result.ok) << result.error.toStdString();
+
+    struct stat after {};
+    ASSERT_EQ(stat(file.constData(), &after), 0);
+    EXPECT_EQ(readBytes(target()), QByteArray("neu\r\n"));
+    EXPECT_EQ(readBytes(QFile::decodeName(second)), QByteArray("neu\r\n"));
+    EXPECT_EQ(after.st_ino, before.st_ino);
+    EXPECT_EQ(after.st_nlink, nlink_t(2));
+    EXPECT_EQ(after.st_mode & 07777, mode_t(0640));
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_gid, before.st_gid);
+    if (attributes) {
+        char value[8] = {};
+        EXPECT_EQ(getxattr(file.constData(), "user.quenfor", value, sizeof value), 2);
+        EXPECT_STREQ(value, "42");
+    }
+    EXPECT_EQ(QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"config.pro"_s});
+
+    // A file with one name is replaced whole, and its owner and attributes go along.
+    ASSERT_EQ(unlink(second.constData()), 0);
+    const WriteResult again = writeDocumentFile(target(), {u"noch neuer"_s}, cp1252);
+    ASSERT_TRUE(again.ok) << again.error.toStdString();
+    ASSERT_EQ(stat(file.constData(), &after), 0);
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_mode & 07777, mode_t(0640));
+    if (attributes)
+        EXPECT_EQ(getxattr(file.constData(), "user.quenfor", nullptr, 0), 2);
+}
+
+// Another program changed or replaced the file after it was read: the save must not throw that
+// change away.
+TEST_F(SaveFailureTest, FileChangedSinceReadingIsNotOverwritten) {
+    const QByteArray theirs = "! vom anderen Programm\r\n";
+    for (const bool replaced : {false, true}) {
+        SCOPED_TRACE(replaced ? "replaced by another file" : "written in place");
+        ASSERT_TRUE(writeBytes(target(), oldBytes));
+        const ReadResult read = readDocumentFile(target(), {});
+        ASSERT_TRUE(read.ok && read.stamp);
+        if (replaced) {
+            const QString other = m_dir.path() + u"/andere.pro"_s;
+            ASSERT_TRUE(writeBytes(other, theirs));
+            ASSERT_EQ(rename(QFile::encodeName(other).constData(), QFile::encodeName(target()).constData()), 0);
+        } else {
+            QFile file(target());
+            ASSERT_TRUE(file.open(QIODevice::Append));
+            file.write(theirs);
+        }
+        const QByteArray onDisk = readBytes(target());
+
+        const WriteResult refused = writeDocumentFile(target(), {u"meins"_s}, cp1252, read.stamp);
+        EXPECT_FALSE(refused.ok);
+        EXPECT_TRUE(refused.changedOnDisk);
+        EXPECT_TRUE(refused.error.contains(u"anderen Programm geändert"_s)) << refused.error.toStdString();
+        EXPECT_EQ(readBytes(target()), onDisk);
+
+        const WriteResult unchecked = writeDocumentFile(target(), {u"meins"_s}, cp1252);
+        EXPECT_TRUE(unchecked.ok);
+        EXPECT_EQ(readBytes(target()), QByteArray("meins\r\n"));
+    }
 }
 
 } // namespace

@@ -36,7 +36,8 @@ protected:
         EXPECT_EQ(check.message, message);
         EXPECT_TRUE(check.displayText.isEmpty());
         EXPECT_EQ(settingValue(Setting::TxtTempdir), settingDefinition(Setting::TxtTempdir).defaultValue);
-        EXPECT_FALSE(QFileInfo(check.folder + u"quenfor.tmp"_s).isFile());
+        if (QFileInfo(check.folder).isDir())
+            EXPECT_TRUE(QDir(check.folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).isEmpty());
     }
 
 private:
@@ -58,7 +59,7 @@ TEST_F(TempDirCheckTest, UsableFolderIsStoredAndLeavesNoTestFile) {
         EXPECT_TRUE(check.message.isEmpty());
         EXPECT_EQ(check.displayText, u"temp Dir: "_s + folder);
         EXPECT_EQ(settingValue(Setting::TxtTempdir), folder);
-        EXPECT_FALSE(QFileInfo::exists(work(u"quenfor.tmp"_s)));
+        EXPECT_TRUE(QDir(work()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).isEmpty());
     }
 }
 
@@ -75,11 +76,23 @@ TEST_F(TempDirCheckTest, MissingFolderOrFileInTheWay) {
     EXPECT_TRUE(QFileInfo(work(u"eine-datei"_s)).isFile());
 }
 
-TEST_F(TempDirCheckTest, FolderInPlaceOfTheTestFileIsKept) {
+// Whatever lies in the folder under a likely name (a folder, a link someone planted to a file of
+// ours) is neither written through nor removed: the test file is new and unique.
+TEST_F(TempDirCheckTest, PlantedNamesAreNeverWrittenThrough) {
     ASSERT_TRUE(QDir().mkpath(work(u"quenfor.tmp/inhalt"_s)));
+    QFile victim(work(u"opfer.txt"_s));
+    ASSERT_TRUE(victim.open(QIODevice::WriteOnly));
+    victim.write("bleibt");
+    victim.close();
+    ASSERT_TRUE(QFile::link(work(u"opfer.txt"_s), work(u"quenfor-link.tmp"_s)));
+    const QStringList before = QDir(work()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
 
-    expectRefused(checkTempDir(work()), notWritableText);
+    EXPECT_TRUE(checkTempDir(work()).ok);
+
     EXPECT_TRUE(QFileInfo(work(u"quenfor.tmp/inhalt"_s)).isDir());
+    ASSERT_TRUE(victim.open(QIODevice::ReadOnly));
+    EXPECT_EQ(victim.readAll(), "bleibt");
+    EXPECT_EQ(QDir(work()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System), before);
 }
 
 TEST_F(TempDirCheckTest, ReadOnlyFolderIsRefused) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/documentstorage.h"
 #include "ui/main/mainmenus.h"
 
 #include <QMainWindow>
@@ -99,6 +100,7 @@ private:
     void appendStatusNote(const QString& note);
     void openLastFile();
     void save();
+    StorageResult saveDocumentAsking();
     void showSearchDialog();
     void applyFamilyOf(const QString& fileName);
     void showFileLabel();

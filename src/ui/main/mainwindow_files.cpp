@@ -126,8 +126,24 @@ void MainWindow::openLastFile() {
     openFile(last);
 }
 
+// Saves the document; when another program changed the file since it was read, the user decides
+// whether that change may be overwritten.
+StorageResult MainWindow::saveDocumentAsking() {
+    StorageResult saved = saveDocument(*m_document, programFolder());
+    if (saved.ok || !saved.changedOnDisk)
+        return saved;
+    const QString question = tr("Die Datei %1 wurde seit dem Lesen von einem anderen Programm geändert. "
+                                "Trotzdem speichern? Dessen Änderungen gehen dann verloren.")
+                                 .arg(QDir::toNativeSeparators(m_document->fileName()));
+    if (Dialogs::question(this, question) != Dialogs::Answer::Yes) {
+        saved.error = tr("Nicht gespeichert: Die Datei bleibt, wie das andere Programm sie geschrieben hat.");
+        return saved;
+    }
+    return saveDocument(*m_document, programFolder(), OthersChanges::Overwrite);
+}
+
 void MainWindow::save() {
-    const StorageResult saved = saveDocument(*m_document, programFolder());
+    const StorageResult saved = saveDocumentAsking();
     if (!saved.ok) {
         Dialogs::information(this, saved.error);
         return;
@@ -168,7 +184,7 @@ void MainWindow::applyFamilyOf(const QString& fileName) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!m_document->isEmpty() &&
         Dialogs::question(this, closeQuestion(m_document->fileName())) == Dialogs::Answer::Yes) {
-        const StorageResult saved = saveDocument(*m_document, programFolder());
+        const StorageResult saved = saveDocumentAsking();
         if (!saved.ok) {
             // Closing now would lose the lines: the user decides again after reading why.
             Dialogs::information(this, saved.error);
