@@ -11,8 +11,11 @@
 #include "cli/proposalcommands.h"
 #include "cli/purgecommands.h"
 #include "cli/searchprocommands.h"
+#include "common/safefilewrite.h"
 
 #include <QHash>
+
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +80,21 @@ int runCli(const QStringList& argList, const CliStreams& io) {
         return run(args, io);
     io.message(u"Unbekannter Befehl: %1 (quenfor-cli --help zeigt alle Befehle)"_s.arg(args.command));
     return kUsage;
+}
+
+} // namespace quenfor::cli
+
+namespace quenfor::cli {
+
+int finishOutput(QFileDevice& out, const CliStreams& io, int status) {
+    errno = 0;
+    const bool flushed = out.flush();
+    const int err = errno;
+    if (flushed && out.error() == QFileDevice::NoError)
+        return status;
+    io.message(u"Die Ausgabe konnte nicht vollständig geschrieben werden: %1"_s.arg(
+        err != 0 ? writeErrorReason(err) : out.errorString()));
+    return kFailed;
 }
 
 } // namespace quenfor::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileDevice>
 #include <QIODevice>
 #include <QStringList>
 
@@ -19,5 +20,9 @@ struct CliStreams {
 
 // Runs one command line (without the program name) and returns the exit status.
 int runCli(const QStringList& args, const CliStreams& io);
+
+// Flushes standard output; a write that failed anywhere (a full disk, a closed stream) turns the
+// status into 1 with a German message, so no script takes a cut output for a whole one.
+int finishOutput(QFileDevice& out, const CliStreams& io, int status);
 
 } // namespace quenfor::cli

@@ -70,6 +70,16 @@ TEST_F(PurgeCliTest, purgeDeletesOnlyOlderVersions) {
     EXPECT_TRUE(QFile::exists(path(u"w/q.asm.3"_s)));
 }
 
+// The separator that tab completion adds must not change which files go.
+TEST_F(PurgeCliTest, trailingSeparatorKeepsTheNewestVersion) {
+    const CliRun r = run({u"purge"_s, u"-r"_s, path(u"w"_s) + u'/'});
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_TRUE(QFile::exists(path(u"w/p.prt.10"_s)));
+    EXPECT_TRUE(QFile::exists(path(u"w/sub/s.drw.10"_s)));
+    EXPECT_FALSE(QFile::exists(path(u"w/p.prt.1"_s)));
+    EXPECT_FALSE(QFile::exists(path(u"w/sub/s.drw.9"_s)));
+}
+
 TEST_F(PurgeCliTest, cleanTakesPatternsInEitherPlace) {
     EXPECT_EQ(runHere({u"clean"_s, u"-n"_s, u"-r"_s, path(u"w"_s)}).out, lines({u"w/x.log.2"_s, u"w/sub/t.inf"_s}));
     EXPECT_EQ(runHere({u"clean"_s, u"-n"_s, u"-r"_s, u"--patterns"_s, u"*.txt"_s, path(u"w"_s)}).out,
