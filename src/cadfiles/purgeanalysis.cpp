@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 QString purgeKey(const QString& fileName) {
-    const PathParts parts = splitPath(fileName);
+    const PathParts parts = splitPath(fileName, Separators::Native);
     return parts.name + u'.' + parts.extension;
 }
 
@@ -176,7 +176,7 @@ NameSplit splitName(QStringView path) {
     qsizetype index = end - 1;
     for (; index >= 0; --index) {
         const QChar c = rest[index];
-        if (isPathSeparator(c))
+        if (isNativeSeparator(c))
             break;
         if (c == u'.' && index < end - 1) {
             extensionEnd = end;
@@ -205,10 +205,9 @@ QStringList purgeCandidates(const QString& folder, const QStringList& sortedName
     if (paired.size() < 2)
         return {};
 
-    // The version is read from the full path behind the length of folder & name & extension (no
-    // separator: only the length matters) plus 2. Behind a folder that gets a separator that is
-    // the text after the version's dot; behind a root it starts one character later. The folder
-    // being common to all, equal bases are equal name & extension, so the files are grouped by that.
+    // The version is the text behind name & extension and their dot, read from the full path. The
+    // folder being common to all, equal bases are equal name & extension, so the files are
+    // grouped by that.
     const QString prefix = joinFolderAndName(folder, u"");
     QStringList paths;
     paths.reserve(paired.size());
@@ -231,7 +230,7 @@ QStringList purgeCandidates(const QString& folder, const QStringList& sortedName
         const NameSplit split = splitName(path);
         // Name and extension stand side by side in the path.
         const QStringView base(split.name.data(), split.name.size() + split.extension.size());
-        const QStringView versionText = QStringView(path).mid(qMin(folder.size() + base.size() + 2, path.size()));
+        const QStringView versionText = QStringView(path).mid(qMin(prefix.size() + base.size() + 1, path.size()));
         const std::optional<float> version = versionNumber(versionText.isEmpty() ? QStringView(u"0") : versionText);
         if (version) {
             auto it = highest.find(base);

@@ -18,9 +18,8 @@ void sortLikeFileList(QStringList& names);
 // same name and first extension with a higher version number exists beside it. sortedNames are
 // the folder's file names in file list order. Versions compare as numbers (".10" is above ".9"), a
 // file without a version counts as 0, a version that is no number takes part in no comparison.
-// The version is read at a fixed distance behind the folder's length, so in a folder that ends in
-// a separator (a root) it comes out one character short: single-digit versions all read 0 there
-// and nothing is listed. Runs in n log n: the files are grouped by object, not compared pairwise.
+// The folder may end in a separator or be a root: the highest version of each object is never
+// listed. Runs in n log n: the files are grouped by object, not compared pairwise.
 QStringList purgeCandidates(const QString& folder, const QStringList& sortedNames);
 
 // Lists the folder's visible files and runs the analysis on them.

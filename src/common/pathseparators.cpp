@@ -6,6 +6,14 @@ bool isPathSeparator(QChar c) {
     return c == u'/' || c == u'\\';
 }
 
+bool isNativeSeparator(QChar c) {
+#ifdef Q_OS_WIN
+    return c == u'/' || c == u'\\';
+#else
+    return c == u'/';
+#endif
+}
+
 bool endsWithPathSeparator(QStringView path) {
     return !path.isEmpty() && isPathSeparator(path.back());
 }

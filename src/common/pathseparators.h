@@ -8,6 +8,8 @@ namespace quenfor {
 
 // Paths in configuration files come from Windows, so "\" counts as a separator beside "/".
 bool isPathSeparator(QChar c);
+// The separators of this system's own paths: names on a Linux disk may hold "\".
+bool isNativeSeparator(QChar c);
 bool endsWithPathSeparator(QStringView path);
 
 // True when prefix is path itself or one of its leading folders: "/mnt/a" begins "/mnt/a/b" but

@@ -6,7 +6,7 @@
 
 namespace quenfor {
 
-PathParts splitPath(QStringView path) {
+PathParts splitPath(QStringView path, Separators separators) {
     PathParts parts;
     QStringView rest = path;
     if (path.size() >= 2 && path[1] == u':') {
@@ -20,7 +20,7 @@ PathParts splitPath(QStringView path) {
     qsizetype index = end - 1;
     for (; index >= 0; --index) {
         const QChar c = rest[index];
-        if (isPathSeparator(c))
+        if (separators == Separators::Native ? isNativeSeparator(c) : isPathSeparator(c))
             break;
         if (c == u'.' && index < end - 1) {
             parts.extension = rest.mid(index, end - index).toString();

@@ -14,7 +14,11 @@ struct PathParts {
     QString extension; // the first extension with its dot: ".prt" of "bracket.prt.3"
 };
 
-PathParts splitPath(QStringView path);
+// Which characters end a folder: any separator (paths written in configuration files come from
+// Windows) or only this system's own (names and paths read from the disk).
+enum class Separators { Any, Native };
+
+PathParts splitPath(QStringView path, Separators separators = Separators::Any);
 
 // folder + native separator + name; no separator is added when the folder already ends in one
 // (a root) or is empty.

@@ -4,7 +4,10 @@
 #include "purgeoracle.h"
 
 #include <QDir>
+#include <QHash>
 #include <QRandomGenerator>
+
+#include <cmath>
 
 #include <gtest/gtest.h>
 
@@ -54,11 +57,22 @@ INSTANTIATE_TEST_SUITE_P(
         AnalysisCase{"caseSensitiveKeys", {u"A.prt.1"_s, u"a.prt.2"_s}, {}}, AnalysisCase{"empty", {}, {}}),
     [](const auto& info) { return std::string(info.param.label); });
 
-TEST(PurgeAnalysis, rootFolderListsNothingForSingleDigitVersions) {
-    const QString root = QDir::toNativeSeparators(u"/"_s);
-    EXPECT_EQ(purgeCandidates(root, {u"part.prt.1"_s, u"part.prt.2"_s}), QStringList());
-    // Only the last digit is read there: 12 reads 2, which is above the 1 of part.prt.1.
-    EXPECT_EQ(purgeCandidates(root, {u"part.prt.1"_s, u"part.prt.12"_s}), QStringList{root + u"part.prt.1"_s});
+// Tab completion adds the separator, and a root always ends in one: the versions must still be read
+// whole there, or .21 reads 1 and the newest file goes.
+// On Linux "\\" is a character of a name like any other: "a\\5" is no version 5 of a file "5".
+TEST(PurgeAnalysis, backslashInANameIsNoFolder) {
+    const QString folder = u"/w"_s;
+    EXPECT_EQ(purgeCandidates(folder, {u"5"_s, u"a\\5"_s}), QStringList());
+    EXPECT_EQ(purgeCandidates(folder, {u"a\\b.prt.1"_s, u"a\\b.prt.2"_s}), QStringList{u"/w/a\\b.prt.1"_s});
+}
+
+TEST(PurgeAnalysis, rootOrTrailingSeparatorKeepsTheNewestVersion) {
+    for (const QString& folder : {QDir::toNativeSeparators(u"/"_s), QDir::toNativeSeparators(u"/w/teile/"_s)}) {
+        SCOPED_TRACE(folder.toStdString());
+        EXPECT_EQ(purgeCandidates(folder, {u"part.prt.1"_s, u"part.prt.2"_s}), QStringList{folder + u"part.prt.1"_s});
+        EXPECT_EQ(purgeCandidates(folder, {u"housing.asm.19"_s, u"housing.asm.21"_s}),
+                  QStringList{folder + u"housing.asm.19"_s});
+    }
 }
 
 TEST(PurgeAnalysis, sortIgnoresCaseThenTakesTheSpelling) {
@@ -119,8 +133,28 @@ TEST(PurgeAnalysis, agreesWithTheLiteralAllPairsComparison) {
         names.removeDuplicates(); // a folder holds each name once
         sortLikeFileList(names);
         const QString& folder = folders[round % folders.size()];
-        ASSERT_EQ(purgeCandidates(folder, names), testing::literalPurgeAnalysis(folder, names))
+        const QStringList purge = purgeCandidates(folder, names);
+        ASSERT_EQ(purge, testing::literalPurgeAnalysis(folder, names))
             << "folder " << folder.toStdString() << " names " << names.join(u' ').toStdString();
+        // Whatever the folder, the highest version of each object stays.
+        const QString prefix = joinFolderAndName(folder, QString());
+        QHash<QString, std::pair<float, QString>> highest;
+        for (const QString& name : names) {
+            if (name.contains(u':'))
+                continue;
+            const PathParts parts = splitPath(name, Separators::Native);
+            const QString text = name.mid(parts.name.size() + parts.extension.size() + 1);
+            bool ok = false;
+            const float version = (text.isEmpty() ? u"0"_s : text).toFloat(&ok);
+            if (!ok || !std::isfinite(version))
+                continue;
+            auto& best = highest[parts.name + u'.' + parts.extension];
+            if (best.second.isEmpty() || version > best.first)
+                best = {version, name};
+        }
+        for (auto it = highest.cbegin(); it != highest.cend(); ++it)
+            ASSERT_FALSE(purge.contains(prefix + it->second)) << "the newest " << it->second.toStdString() << " in "
+                                                               << folder.toStdString();
     }
 }
 

@@ -23,7 +23,7 @@ inline std::optional<float> oracleNumber(const QString& text) {
 inline QStringList literalPurgeAnalysis(const QString& folder, const QStringList& file1) {
     QStringList list1, list2, list4, listTmp;
     for (const QString& name : file1) {
-        const PathParts parts = splitPath(name);
+        const PathParts parts = splitPath(name, Separators::Native);
         list1.append(parts.name);
         list2.append(parts.extension);
     }
@@ -38,12 +38,13 @@ inline QStringList literalPurgeAnalysis(const QString& folder, const QStringList
     if (list4.size() < 2)
         return list4;
     list4.removeDuplicates();
+    const QString prefix = joinFolderAndName(folder, QString());
     auto base = [&](const QString& entry) {
-        const PathParts parts = splitPath(entry);
-        return folder + parts.name + parts.extension;
+        const PathParts parts = splitPath(entry, Separators::Native);
+        return prefix + parts.name + parts.extension;
     };
     auto version = [&](const QString& entry) {
-        QString text = entry.mid(base(entry).size() + 2);
+        QString text = entry.mid(base(entry).size() + 1);
         return text.isEmpty() ? QStringLiteral("0") : text;
     };
     for (qsizetype i = 0; i < list4.size(); ++i) {
@@ -57,7 +58,6 @@ inline QStringList literalPurgeAnalysis(const QString& folder, const QStringList
         }
     }
     listTmp.removeDuplicates();
-    // When no pair passes, nothing is to be purged (the root folder case).
     return listTmp;
 }
 

@@ -10,7 +10,7 @@ using namespace quenfor;
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     fuzz::FuzzInput input(data, size);
     const uint8_t choice = input.byte();
-    // Folders with and without a closing separator: the version is read at a fixed distance.
+    // Folders with and without a closing separator: the version must be read whole in both.
     const QString folder = choice & 1 ? QStringLiteral("/") : QStringLiteral("/cad/teile");
     QStringList names;
     for (const QString& line : input.lines(40))
