@@ -33,7 +33,7 @@ set(CPACK_DEBIAN_FILE_NAME "DEB-DEFAULT")
 # The libraries come from dpkg-shlibdeps; the plugins Qt loads at run time are no linked library:
 # a window needs a platform plugin, pictures in tif and friends the image format plugins.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins")
 
 include(CPack)

@@ -66,7 +66,7 @@ version="$(sed -n 's/^set(CPACK_PACKAGE_VERSION "\(.*\)")$/\1/p' "$build/CPackCo
 [[ "$(field Maintainer)" == quenfor-Entwickler ]] || fail "Maintainer ist \"$(field Maintainer)\"."
 [[ "$(field Section)" == utils ]] || fail "Section ist \"$(field Section)\" statt utils."
 depends="$(field Depends)"
-for needed in libqt6core6 libqt6widgets6 qt6-qpa-plugins libc6; do
+for needed in libqt6core6 libqt6widgets6 qt6-qpa-plugins qt6-translations-l10n libc6; do
     [[ "$depends" == *"$needed"* ]] || fail "Depends nennt $needed nicht: $depends"
 done
 description="$(field Description)"

@@ -3,5 +3,6 @@
 set -euo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 "$root/scripts/install-deps.sh"
-"$root/scripts/build.sh"
+# Only what it starts: the program and the command-line tool beside it, no tests or benchmarks.
+QUENFOR_BUILD_TARGETS="quenfor quenfor-cli" "$root/scripts/build.sh" -DBUILD_TESTING=OFF -DQUENFOR_BUILD_BENCH=OFF
 exec "${QUENFOR_BUILD_DIR:-$root/build}/src/app/quenfor" "${1:-$root/data/samples/config.pro}"

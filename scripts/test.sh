@@ -38,12 +38,12 @@ ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:detect_stack_use_after_return=1" \
     ctest --test-dir "$build-sanitize" --output-on-failure -j "$(nproc)" --timeout 900
 
 phase "Fuzzers"
-QUENFOR_FUZZ_BUILD_DIR="$build-fuzz" bash "$root/scripts/fuzz.sh" "${QUENFOR_FUZZ_SECONDS:-20}"
+QUENFOR_FUZZ_BUILD_DIR="$build-fuzz" bash "$root/scripts/fuzz.sh" "${QUENFOR_FUZZ_SECONDS:-15}"
 
 # Optimised, with warnings as errors (some warnings appear only with optimisation).
 phase "Program and command-line tool, optimised"
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE="${CMAKE_BUILD_TYPE:-RelWithDebInfo}" -DQUENFOR_WERROR=ON >/dev/null
-cmake --build "$build" -j "$(nproc)" --target quenfor quenfor-cli
+QUENFOR_BUILD_DIR="$build" QUENFOR_BUILD_TARGETS="quenfor quenfor-cli" "$root/scripts/build.sh" \
+    -DQUENFOR_WERROR=ON -DBUILD_TESTING=OFF -DQUENFOR_BUILD_BENCH=OFF
 phase "Debian package"
 bash "$root/scripts/check-package.sh" "$build"
 phase "Fertig"

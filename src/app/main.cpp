@@ -1,3 +1,4 @@
+#include "common/qttranslations.h"
 #include "ui/main/mainwindow.h"
 
 #include <QApplication>
@@ -13,6 +14,7 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName(QStringLiteral("quenfor"));
     QApplication::setApplicationVersion(QStringLiteral(QUENFOR_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("quenfor"));
+    quenfor::installGermanQtTranslations(app);
 
     quenfor::MainWindow window;
     window.startUp(QApplication::arguments().mid(1));

@@ -1,4 +1,5 @@
 #include "cli/clirunner.h"
+#include "common/qttranslations.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -35,6 +36,7 @@ int main(int argc, char* argv[]) {
     holdClosedStandardStreams();
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quenfor-cli"));
+    quenfor::installGermanQtTranslations(app);
 
     QFile in;
     QFile out;

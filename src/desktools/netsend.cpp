@@ -1,5 +1,8 @@
 #include "desktools/netsend.h"
 
+#include <QProcess>
+#include <QStandardPaths>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -10,12 +13,19 @@ const QString kLineEnd = u"\r\n"_s;
 
 } // namespace
 
-QString netSendCommandLine(const NetSendMessage& message) {
-    // The carriage return inside the quotes is part of the command line the system expects.
-    QString line = u"net send "_s + message.recipient + u" \""_s + message.text + u'\r';
+NetSendCommand netSendCommand(const NetSendMessage& message) {
+    // The carriage return ends the message text, as the system's messenger expects it.
+    QString text = message.text + u'\r';
     if (message.sign)
-        line += u"- "_s + message.sender + u" -"_s;
-    return line + u'"';
+        text += u"- "_s + message.sender + u" -"_s;
+    return {u"net"_s, {u"send"_s, message.recipient, text}};
+}
+
+SendStart startNetSend(const NetSendCommand& command) {
+    const QString program = QStandardPaths::findExecutable(command.program);
+    if (program.isEmpty())
+        return SendStart::NoProgram;
+    return QProcess::startDetached(program, command.arguments) ? SendStart::Started : SendStart::Failed;
 }
 
 QStringList recipientsOf(const QString& text) {
@@ -72,6 +82,11 @@ QString windowDoubleClickMessage() {
 
 QString shellNotStartedText() {
     return u"Die Nachricht wurde nicht gesendet: die Befehlszeile des Systems lässt sich nicht starten."_s;
+}
+
+QString noNetCommandText() {
+    return u"Die Nachricht wurde nicht gesendet: Dieses System kennt den Befehl \"net send\" nicht "
+           u"(unter Linux gibt es ihn nicht)."_s;
 }
 
 QString noRecipientText() {

@@ -17,9 +17,19 @@ struct NetSendMessage {
     QString sender;
 };
 
-// "net send " + recipient + " " + '"' + text + CR + '"'; signed, the CR is followed by
-// "- " + sender + " -" before the closing quote.
-QString netSendCommandLine(const NetSendMessage& message);
+// The program "net" with the arguments "send", the recipient and the text + CR; signed, the CR is
+// followed by "- " + sender + " -". Handed over as a list, never through a shell, so nothing the
+// user typed ($(...), quotes, ";") can run as a command.
+struct NetSendCommand {
+    QString program;
+    QStringList arguments;
+};
+NetSendCommand netSendCommand(const NetSendMessage& message);
+
+// What became of a start.
+enum class SendStart { Started, NoProgram, Failed };
+// Starts the command as it is, with no shell in between.
+SendStart startNetSend(const NetSendCommand& command);
 
 // The items of List1: every non-empty line of the text.
 QStringList recipientsOf(const QString& text);
@@ -56,8 +66,10 @@ inline constexpr char16_t kClearCaption[] = u"alle löschen";
 // Check1 carries the login name as its caption; the hint says what ticking it does.
 inline constexpr char16_t kSignHint[] = u"Nachricht mit dem eigenen Anmeldenamen unterschreiben";
 
-// Shown when the command line could not even be handed to the shell.
+// Shown when the command could not be started at all.
 QString shellNotStartedText();
+// Shown in the status line and in a message box on a system without a "net" command (Linux).
+QString noNetCommandText();
 // Shown instead of sending when no recipient is given.
 QString noRecipientText();
 

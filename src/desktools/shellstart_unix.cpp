@@ -8,10 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace quenfor {
 
-bool startInShell(const QString& commandLine) {
-    return QProcess::startDetached(u"/bin/sh"_s, {u"-c"_s, commandLine});
-}
-
 bool startTerminal(const QString& folder) {
     // Debian's alternatives name the user's choice x-terminal-emulator; other systems lack it.
     const QStringList terminals{u"x-terminal-emulator"_s, u"gnome-terminal"_s, u"konsole"_s, u"xfce4-terminal"_s,

@@ -29,10 +29,6 @@ bool startCmd(const QString& nativeArguments, const QString& folder) {
 
 } // namespace
 
-bool startInShell(const QString& commandLine) {
-    return startCmd(u"/c "_s + commandLine, QString());
-}
-
 bool startTerminal(const QString& folder) {
     return startCmd(QString(), folder);
 }

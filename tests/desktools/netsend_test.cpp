@@ -5,16 +5,38 @@
 #include "desktools/netsendsettings.h"
 
 #include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace quenfor;
 
-TEST(NetSendCommandLine, UnsignedAndSigned) {
-    EXPECT_EQ(netSendCommandLine({u"pc12"_s, u"Hallo"_s, false, u"meier"_s}), u"net send pc12 \"Hallo\r\""_s);
-    EXPECT_EQ(netSendCommandLine({u"pc12"_s, u"Hallo"_s, true, u"meier"_s}), u"net send pc12 \"Hallo\r- meier -\""_s);
-    EXPECT_EQ(netSendCommandLine({u"pc12"_s, QString(), false, {}}), u"net send pc12 \"\r\""_s);
+TEST(NetSendCommand, UnsignedAndSignedAsArguments) {
+    const NetSendCommand plain = netSendCommand({u"pc12"_s, u"Hallo"_s, false, u"meier"_s});
+    EXPECT_EQ(plain.program, u"net"_s);
+    EXPECT_EQ(plain.arguments, (QStringList{u"send"_s, u"pc12"_s, u"Hallo\r"_s}));
+    EXPECT_EQ(netSendCommand({u"pc12"_s, u"Hallo"_s, true, u"meier"_s}).arguments,
+              (QStringList{u"send"_s, u"pc12"_s, u"Hallo\r- meier -"_s}));
+}
+
+// The user's text is an argument, never shell input: a message $(touch x) must create nothing.
+TEST(NetSendCommand, UserTextNeverRunsAsACommand) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString marker = dir.filePath(u"x"_s);
+    const NetSendMessage message{u"pc12; touch "_s + marker, u"$(touch "_s + marker + u") `touch "_s + marker + u"`"_s,
+                                 true, u"\"; touch "_s + marker};
+    NetSendCommand command = netSendCommand(message);
+    EXPECT_EQ(command.arguments.size(), 3);
+    // Run through a program that is surely there and prints nothing: its arguments stay text.
+    command.program = u"true"_s;
+    EXPECT_EQ(startNetSend(command), SendStart::Started);
+    command.program = u"quenfor-kein-solcher-befehl"_s;
+    EXPECT_EQ(startNetSend(command), SendStart::NoProgram);
+    QThread::msleep(300);
+    EXPECT_FALSE(QFile::exists(marker));
 }
 
 TEST(Recipients, ListIsTheNonEmptyLinesOfTheText) {

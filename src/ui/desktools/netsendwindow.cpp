@@ -3,7 +3,6 @@
 #include "desktools/loginname.h"
 #include "desktools/netsend.h"
 #include "desktools/netsendsettings.h"
-#include "desktools/shellstart.h"
 #include "ui/widgets/dialogs.h"
 #include "ui/desktools/emptyondoubleclick.h"
 #include "ui/widgets/formwidgets.h"
@@ -30,8 +29,8 @@ QString text(const char16_t* caption) {
 
 } // namespace
 
-NetSendWindow::NetSendWindow(LineRunner runLine, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_runLine(std::move(runLine)), m_login(loginName()) {
+NetSendWindow::NetSendWindow(CommandRunner run, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_run(std::move(run)), m_login(loginName()) {
     setObjectName(u"Rufpost"_s);
     setWindowTitle(u"Rufpost"_s);
     buildWidgets();
@@ -116,10 +115,22 @@ void NetSendWindow::send() {
         m_status->setText(noRecipientText());
         return;
     }
-    const QString line = netSendCommandLine({m_recipient->text(), m_message->text(), m_sign->isChecked(), m_login});
-    const bool started = m_runLine ? m_runLine(line) : startInShell(line);
-    // What "net send" itself answers shows in the system's window, not here.
-    m_status->setText(started ? QString() : shellNotStartedText());
+    const NetSendCommand command =
+        netSendCommand({m_recipient->text(), m_message->text(), m_sign->isChecked(), m_login});
+    const SendStart start = m_run ? m_run(command) : startNetSend(command);
+    switch (start) {
+    case SendStart::Started:
+        // What "net send" itself answers shows in the system's window, not here.
+        m_status->clear();
+        break;
+    case SendStart::NoProgram:
+        m_status->setText(noNetCommandText());
+        Dialogs::information(this, noNetCommandText());
+        break;
+    case SendStart::Failed:
+        m_status->setText(shellNotStartedText());
+        break;
+    }
 }
 
 void NetSendWindow::remember() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktools/netsend.h"
+
 #include <QStringList>
 #include <QWidget>
 
@@ -18,10 +20,9 @@ class NetSendWindow : public QWidget {
     Q_OBJECT
 
 public:
-    // runLine hands the command line to the system; empty: the system's shell. It answers false
-    // when the line could not be started at all.
-    using LineRunner = std::function<bool(const QString&)>;
-    explicit NetSendWindow(LineRunner runLine = {}, QWidget* parent = nullptr);
+    // run starts the command; empty: startNetSend, the system itself.
+    using CommandRunner = std::function<SendStart(const NetSendCommand&)>;
+    explicit NetSendWindow(CommandRunner run = {}, QWidget* parent = nullptr);
 
     void send();           // Command1
     void remember();       // cmd_merken
@@ -39,7 +40,7 @@ private:
     void buildWidgets();
     void setRecipientsText(const QString& text);
 
-    LineRunner m_runLine;
+    CommandRunner m_run;
     QString m_login;
     // Text2: the remembered recipients, a line each, ended by CR LF. Kept as text rather than in a
     // hidden text box, which would turn the CR LF into bare line feeds.

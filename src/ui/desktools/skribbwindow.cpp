@@ -338,8 +338,12 @@ bool SkribbWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QString SkribbWindow::text() const {
-    // The raw text keeps no-break spaces, which the plain text would turn into blanks.
-    return m_text->document()->toRawText().replace(QChar::ParagraphSeparator, u"\r\n"_s);
+    // The raw text keeps no-break spaces, which the plain text would turn into blanks. Shift+Enter
+    // makes a line separator inside a paragraph: in a file it is a line end like any other.
+    return m_text->document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u"\r\n"_s)
+        .replace(QChar::LineSeparator, u"\r\n"_s);
 }
 
 void SkribbWindow::setText(const QString& text) {

@@ -102,6 +102,7 @@ private:
 
     // The run of a translation: what was there before, how far it got.
     QStringList m_sourceLines;
+    QString m_sourceText; // the text before the translation, given back when no line came through
     qsizetype m_translated = 0;
     qsizetype m_failedLines = 0;
     qsizetype m_askedLines = 0;

@@ -77,11 +77,13 @@ void SkribbWindow::save() {
 }
 
 void SkribbWindow::saveAs(const QString& folder, const QString& name) {
-    const QString target = QDir(folder).filePath(name.trimmed());
-    if (!name.trimmed().isEmpty() && QFileInfo(target).isFile() &&
+    // The name asked about is the name written: blanks around it are no part of it.
+    const QString trimmed = name.trimmed();
+    const QString target = QDir(folder).filePath(trimmed);
+    if (!trimmed.isEmpty() && QFileInfo(target).isFile() &&
         Dialogs::question(this, replaceFileQuestion(target)) != Dialogs::Answer::Yes)
         return;
-    const EditorSave saved = saveEditorTextAs(folder, name, text(), m_encoding);
+    const EditorSave saved = saveEditorTextAs(folder, trimmed, text(), m_encoding);
     if (saved.outcome != EditorSave::Outcome::Saved) {
         Dialogs::information(this, saved.message);
         return;

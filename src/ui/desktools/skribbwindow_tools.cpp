@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFrame>
 #include <QLabel>
@@ -155,6 +156,7 @@ void SkribbWindow::translate(const QString& name) {
     setStatus(QString::fromUtf16(kTranslationStarted));
 
     m_sourceLines = translationSourceLines(source);
+    m_sourceText = m_text->document()->toRawText();
     m_translated = 0;
     m_failedLines = 0;
     m_askedLines = std::count_if(m_sourceLines.cbegin(), m_sourceLines.cend(),
@@ -205,8 +207,21 @@ void SkribbWindow::finishTranslation(bool cancelled) {
         if (!rest.isEmpty())
             appendToText(rest);
     }
+    const bool noneCameThrough = !cancelled && m_askedLines > 0 && m_failedLines == m_askedLines;
+    if (noneCameThrough) {
+        // Without a connection every line fails: the text stays as it was instead of turning into
+        // empty lines. One undo step still leads back through the attempt.
+        QTextCursor cursor(m_text->document());
+        cursor.joinPreviousEditBlock();
+        cursor.select(QTextCursor::Document);
+        cursor.insertText(m_sourceText);
+        cursor.endEditBlock();
+    }
     QString status;
-    if (!m_backupPath.isEmpty() && (QFile::remove(m_backupPath) || !QFile::exists(m_backupPath)))
+    // A line that failed came back empty: its text then lives on only in the backup, which stays.
+    if (m_failedLines > 0 && !noneCameThrough && !m_backupPath.isEmpty())
+        status = tr("Die Sicherungskopie des Textes bleibt in %1.").arg(QDir::toNativeSeparators(m_backupPath));
+    else if (!m_backupPath.isEmpty() && (QFile::remove(m_backupPath) || !QFile::exists(m_backupPath)))
         status = QString::fromUtf16(kTranslationFileDeleted);
     const QString outcome = cancelled ? translationCancelledText(m_translated, m_sourceLines.size())
                                       : translationShortfall(m_failedLines, m_askedLines);
@@ -216,6 +231,7 @@ void SkribbWindow::finishTranslation(bool cancelled) {
     refresh();
     setStatus(status);
     m_sourceLines.clear();
+    m_sourceText.clear();
     emit translationFinished();
 }
 

@@ -4,6 +4,7 @@
 #include "ui/main/documentlistmodel.h"
 
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace quenfor {
@@ -39,6 +40,15 @@ void DocumentListView::mousePressEvent(QMouseEvent* event) {
     }
     emit leftClicked();
     QListView::mousePressEvent(event);
+}
+
+// Moving with the keys makes another line the current one, just as a click does.
+void DocumentListView::keyPressEvent(QKeyEvent* event) {
+    const QModelIndex before = currentIndex();
+    QListView::keyPressEvent(event);
+    const QModelIndex after = currentIndex();
+    if (after.isValid() && after != before)
+        emit lineClicked(after.row());
 }
 
 void DocumentListView::takeSelectionFromView(const QItemSelection& selected, const QItemSelection& deselected) {

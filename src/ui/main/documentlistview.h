@@ -22,6 +22,7 @@ signals:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void takeSelectionFromView(const QItemSelection& selected, const QItemSelection& deselected);

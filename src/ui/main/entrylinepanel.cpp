@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -24,6 +26,8 @@ EntryLinePanel::EntryLinePanel(QWidget* parent)
     : QWidget(parent), m_entry(new QLineEdit(this)), m_warning(new QLabel(this)), m_preview(new QLabel(this)),
       m_favoriteCheck(new QLabel(this)), m_row(new QHBoxLayout) {
     m_entry->setObjectName(QStringLiteral("Text1"));
+    // Qt cuts at 32,767 characters by default; a line of the document may be far longer.
+    m_entry->setMaxLength(std::numeric_limits<int>::max());
     m_warning->setObjectName(QStringLiteral("lbl_warn"));
     m_preview->setObjectName(QStringLiteral("lblvorschau"));
     m_favoriteCheck->setObjectName(QStringLiteral("img_favocheck"));

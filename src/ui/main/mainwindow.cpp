@@ -128,6 +128,10 @@ QString MainWindow::status() const {
 
 void MainWindow::showMarked(int row) {
     m_number->setText(row < 0 ? u"Nr."_s : QString::number(row));
+    // The entry line always holds the current line, however it became current (a click, the keys,
+    // a hit of the search): Enter then replaces that line and no other.
+    if (row >= 0 && row < m_document->count() && m_entry->text() != m_document->line(row))
+        m_entry->setText(m_document->line(row));
 }
 
 void MainWindow::showContextMenu(const QPoint& globalPos) {

@@ -82,8 +82,13 @@ void MainWindow::openTextEditor() {
         QGuiApplication::restoreOverrideCursor();
         connect(editor, &SkribbWindow::explanationReady, this,
                 [this](const QString& text) { explanationPanel()->showExplanation(text); });
-        connect(editor, &SkribbWindow::linesHandedBack, this, [this](const QStringList& lines) {
-            m_document->appendLines(lines);
+        // The editor got the document's lines to work on: taking its text back replaces them, so no
+        // line ends up twice. Lines the document gained meanwhile are kept, and the text is added.
+        connect(editor, &SkribbWindow::linesHandedBack, this, [this, opened = m_document->lines()](const QStringList& lines) {
+            if (m_document->lines() == opened)
+                m_document->replaceAll(lines);
+            else
+                m_document->appendLines(lines);
             setStatus(QString::fromUtf16(kTextTakenOver));
         });
         return editor;

@@ -182,6 +182,12 @@ void MainWindow::applyFamilyOf(const QString& fileName) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    // Whichever way the program is closed (menu, title bar, keys), the tools go first, as EXIT
+    // does: the editor may still hand its text into this document, which is then offered for saving.
+    if (!closeToolWindows()) {
+        event->ignore();
+        return;
+    }
     if (!m_document->isEmpty() &&
         Dialogs::question(this, closeQuestion(m_document->fileName())) == Dialogs::Answer::Yes) {
         const StorageResult saved = saveDocumentAsking();

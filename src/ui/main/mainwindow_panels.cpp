@@ -20,6 +20,8 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QStackedWidget>
 
@@ -50,7 +52,22 @@ void MainWindow::connectPanels() {
         m_folders->hide();
         openFile(path);
     });
-    connect(m_chooser, &FileChooserPanel::saveAsRequested, this, [this](const QString& folder, const QString& name) {
+    // Enter or "Speichern als..." onto a file that is already there replaces it only when the user
+    // says so; saving the document's own file again needs no question.
+    const auto mayWrite = [this](const QString& folder, const QString& name) {
+        const QString target = chooserPath(folder, name);
+        if (!QFileInfo::exists(target) || QFileInfo(target) == QFileInfo(m_document->fileName()))
+            return true;
+        const QString question =
+            tr("Die Datei %1 gibt es schon. Soll sie überschrieben werden?").arg(QDir::toNativeSeparators(target));
+        if (Dialogs::question(this, question) == Dialogs::Answer::Yes)
+            return true;
+        setStatus(tr("Nicht gespeichert: %1 bleibt, wie sie ist.").arg(QDir::toNativeSeparators(target)));
+        return false;
+    };
+    connect(m_chooser, &FileChooserPanel::saveAsRequested, this, [this, mayWrite](const QString& folder, const QString& name) {
+        if (!mayWrite(folder, name))
+            return;
         const StorageResult saved = saveDocumentAs(*m_document, folder, name);
         if (!saved.ok) {
             Dialogs::information(this, saved.error);
@@ -61,7 +78,9 @@ void MainWindow::connectPanels() {
         showCentre(m_list);
         applyFamilyOf(m_document->fileName());
     });
-    connect(m_chooser, &FileChooserPanel::saveCopyRequested, this, [this](const QString& folder, const QString& name) {
+    connect(m_chooser, &FileChooserPanel::saveCopyRequested, this, [this, mayWrite](const QString& folder, const QString& name) {
+        if (name.isEmpty() || !mayWrite(folder, name))
+            return;
         const StorageResult saved = saveDocumentCopy(*m_document, folder, name);
         if (!saved.ok)
             Dialogs::information(this, saved.error);

@@ -7,9 +7,7 @@
 
 namespace quenfor {
 
-void endWholeProgram() {
-    // The tool windows close first: one of them may still hand lines to the main window's
-    // document, which the main window then offers to save when its own turn comes.
+bool closeToolWindows() {
     QList<QPointer<QWidget>> tools;
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && !qobject_cast<QMainWindow*>(window))
@@ -17,9 +15,16 @@ void endWholeProgram() {
     }
     for (const QPointer<QWidget>& tool : tools) {
         if (tool && tool->isVisible() && !tool->close())
-            return;
+            return false;
     }
-    QApplication::closeAllWindows();
+    return true;
+}
+
+void endWholeProgram() {
+    // The tool windows close first: one of them may still hand lines to the main window's
+    // document, which the main window then offers to save when its own turn comes.
+    if (closeToolWindows())
+        QApplication::closeAllWindows();
 }
 
 } // namespace quenfor

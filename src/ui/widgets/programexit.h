@@ -7,4 +7,8 @@ namespace quenfor {
 // that refuses (the user cancelled) keeps the program running.
 void endWholeProgram();
 
+// Closes every visible tool window first, so one that hands lines back still finds the main
+// window's document. False when a window refused to close.
+bool closeToolWindows();
+
 } // namespace quenfor

@@ -18,15 +18,15 @@ using namespace quenfor;
 class NetSendWindowTest : public QObject {
     Q_OBJECT
 
-    QStringList m_lines;
-    bool m_shellStarts = true;
+    QList<QStringList> m_commands;
+    SendStart m_start = SendStart::Started;
     QStringList m_asked;
     Dialogs::Answer m_answer = Dialogs::Answer::Yes;
 
     std::unique_ptr<NetSendWindow> makeWindow() {
-        return std::make_unique<NetSendWindow>([this](const QString& line) {
-            m_lines.append(line);
-            return m_shellStarts;
+        return std::make_unique<NetSendWindow>([this](const NetSendCommand& command) {
+            m_commands.append(QStringList{command.program} + command.arguments);
+            return m_start;
         });
     }
 
@@ -41,8 +41,8 @@ class NetSendWindowTest : public QObject {
 private slots:
     void init() {
         QVERIFY(storeNetSendSettings({u"myfriend"_s, u"Text1"_s, u"Text2"_s}));
-        m_lines.clear();
-        m_shellStarts = true;
+        m_commands.clear();
+        m_start = SendStart::Started;
         m_asked.clear();
         m_answer = Dialogs::Answer::Yes;
         Dialogs::setHandler([this](const Dialogs::Request& request) {
@@ -61,16 +61,17 @@ private slots:
         QCOMPARE(window->findChild<QCheckBox*>(u"Check1"_s)->text(), loginName());
     }
 
-    void sendHandsTheExactLineToTheShell() {
+    void sendHandsTheExactArgumentsToNet() {
         auto window = makeWindow();
         line(*window, u"user"_s)->setText(u"pc12"_s);
         line(*window, u"Text1"_s)->setText(u"Hallo"_s);
         click(*window, u"Command1"_s);
         window->findChild<QCheckBox*>(u"Check1"_s)->setChecked(true);
         click(*window, u"Command1"_s);
-        QCOMPARE(m_lines, (QStringList{u"net send pc12 \"Hallo\r\""_s,
-                                       u"net send pc12 \"Hallo\r- "_s + loginName() + u" -\""_s}));
+        QCOMPARE(m_commands, (QList<QStringList>{{u"net"_s, u"send"_s, u"pc12"_s, u"Hallo\r"_s},
+                                                 {u"net"_s, u"send"_s, u"pc12"_s, u"Hallo\r- "_s + loginName() + u" -"_s}}));
         QCOMPARE(status(*window), QString());
+        QVERIFY(m_asked.isEmpty());
     }
 
     void sendSaysWhenNothingCouldBeSent() {
@@ -78,11 +79,16 @@ private slots:
         line(*window, u"user"_s)->clear();
         click(*window, u"Command1"_s);
         QCOMPARE(status(*window), noRecipientText());
-        QVERIFY(m_lines.isEmpty());
-        m_shellStarts = false;
+        QVERIFY(m_commands.isEmpty());
+        m_start = SendStart::Failed;
         line(*window, u"user"_s)->setText(u"pc12"_s);
         click(*window, u"Command1"_s);
         QCOMPARE(status(*window), shellNotStartedText());
+        // Without a "net" command (every Linux) the window says so twice, and never looks sent.
+        m_start = SendStart::NoProgram;
+        click(*window, u"Command1"_s);
+        QCOMPARE(status(*window), noNetCommandText());
+        QCOMPARE(m_asked, QStringList{noNetCommandText()});
     }
 
     void rememberDeleteAndClearTheRecipients() {

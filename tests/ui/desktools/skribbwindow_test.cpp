@@ -4,6 +4,7 @@
 #include "desktools/caretposition.h"
 #include "desktools/editorexplanation.h"
 #include "desktools/skribbcommands.h"
+#include "desktools/texthandback.h"
 #include "document/configdocument.h"
 #include "panelsandbox.h"
 #include "settings/mainsettings.h"
@@ -298,8 +299,12 @@ private slots:
         chooseDirection(window, 0);
         waitForTranslation(window);
         QCOMPARE(window.text(), u"\r\n\r\nHello\r\n\r\n"_s);
-        QVERIFY2(window.status().startsWith(u"temporäre Datei wurde gelöscht – 3 von 4 Zeilen"_s),
+        // The failed lines live on only in the backup: it stays, and the status says where.
+        const QString backup = translationBackupPath(path() + QDir::separator());
+        QVERIFY2(window.status().startsWith(u"Die Sicherungskopie des Textes bleibt in "_s +
+                                            QDir::toNativeSeparators(backup) + u". – 3 von 4 Zeilen"_s),
                  qPrintable(window.status()));
+        QVERIFY(QFile::exists(backup));
     }
 
     void aSlowAnswerTimesOutAndTheWindowStaysUsable() {
@@ -319,7 +324,7 @@ private slots:
         QCOMPARE(window.text(), u"\r\nHello\r\n"_s);
     }
 
-    void aRefusedConnectionGivesEmptyLines() {
+    void aRefusedConnectionKeepsTheText() {
         QTcpServer closed;
         QVERIFY(closed.listen(QHostAddress::LocalHost));
         const quint16 port = closed.serverPort();
@@ -328,7 +333,7 @@ private slots:
         SkribbWindow window(u"Hallo\r\n\r\nGuten Tag"_s);
         chooseDirection(window, 0);
         waitForTranslation(window);
-        QCOMPARE(window.text(), u"\r\n\r\n\r\n"_s);
+        QCOMPARE(window.text(), u"Hallo\r\n\r\nGuten Tag"_s);
     }
 
     void cancellingKeepsTheLinesNotYetTranslated() {
@@ -541,10 +546,59 @@ private slots:
         m_answer = Dialogs::Answer::Yes;
         editor->close();
         QCOMPARE(m_asked.last(), u"Text  in Liste übernehmen ?"_s);
-        QCOMPARE(main.document()->lines(),
-                 (QStringList{u"opt1 ja"_s, u"opt2 nein"_s, u"neu1"_s, QString(), u"neu2 ł"_s}));
+        // The editor worked on the document's own lines: they are replaced, never doubled.
+        QCOMPARE(main.document()->lines(), (QStringList{u"neu1"_s, QString(), u"neu2 ł"_s}));
         QCOMPARE(main.status(), u"Text aus Texteditor übernommen"_s);
         QVERIFY(!QFile::exists(path(u"quen.tmp"_s)));
+
+        // Lines the document gained meanwhile stay; the text is added behind them.
+        main.findChild<QAction*>(u"mnuTextEditor"_s)->trigger();
+        editor = main.findChild<SkribbWindow*>();
+        QVERIFY(editor);
+        main.document()->appendLines({u"dazu"_s});
+        editor->setText(u"anderes"_s);
+        editor->close();
+        QCOMPARE(main.document()->lines(), (QStringList{u"neu1"_s, QString(), u"neu2 ł"_s, u"dazu"_s, u"anderes"_s}));
+    }
+
+    // The title bar closes the main window the way EXIT does: the editor hands its text back
+    // first, then the main window asks about saving the document that now holds it.
+    void closingTheMainWindowClosesTheEditorFirst() {
+        MainWindow main;
+        main.show();
+        main.findChild<QAction*>(u"mnuTextEditor"_s)->trigger();
+        auto* editor = main.findChild<SkribbWindow*>();
+        QVERIFY(editor);
+        editor->show();
+        editor->setText(u"aus dem Editor"_s);
+        m_answer = Dialogs::Answer::Yes;
+        const QString target = path(u"ziel.pro"_s);
+        main.document()->setFileName(target);
+        QVERIFY(main.close());
+        QCOMPARE(m_asked.size(), 2);
+        QCOMPARE(m_asked.at(0), u"Text  in Liste übernehmen ?"_s);
+        QVERIFY(m_asked.at(1).contains(u"speichern ?"_s));
+        QFile saved(target);
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.readAll(), QByteArray("aus dem Editor\r\n"));
+    }
+
+    void lineBreaksAndNamesAreSavedAsTyped() {
+        SkribbWindow window(QString());
+        window.show();
+        auto* box = child<QPlainTextEdit>(window, u"TextBox1"_s);
+        box->setFocus();
+        QTest::keyClicks(box, u"eins"_s);
+        QTest::keyClick(box, Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClicks(box, u"zwei"_s);
+        QCOMPARE(window.text(), u"eins\r\nzwei"_s);
+
+        window.saveAs(path(), u"a.txt "_s);
+        QVERIFY(QFile::exists(path(u"a.txt"_s)));
+        QVERIFY(!QFile::exists(path(u"a.txt "_s)));
+        QFile saved(path(u"a.txt"_s));
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.readAll(), QByteArray("eins\r\nzwei\r\n"));
     }
 
     void aTempFolderThatFailsLosesNoLine() {

@@ -1,5 +1,6 @@
 // Drives the real main window as a user would: clicks, typing, Enter, buttons and menu entries.
 #include "document/configdocument.h"
+#include "document/documentsearch.h"
 #include "panelsandbox.h"
 #include "settings/mainsettings.h"
 #include "settings/settingsstore.h"
@@ -104,6 +105,56 @@ private slots:
         QTest::keyClick(entry(), Qt::Key_Return);
         QCOMPARE(doc().line(3), u"opt3 neu"_s);
         QCOMPARE(doc().count(), 10);
+    }
+
+    // However a line becomes the current one, Enter replaces that line with the entry line's text.
+    void entryLineFollowsKeysAndSearchHits() {
+        clickLine(3);
+        QTest::keyClick(list(), Qt::Key_Down);
+        QCOMPARE(entry()->text(), u"opt4 wert"_s);
+        QCOMPARE(label(u"lblnumber"_s), u"4"_s);
+        entry()->setText(u"opt4 neu"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        QCOMPARE(doc().line(4), u"opt4 neu"_s);
+        QCOMPARE(doc().count(), 10);
+
+        selectAndShowLine(doc(), 7); // what a hit of the search dialog does
+        QCOMPARE(entry()->text(), u"opt7 wert"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        QCOMPARE(doc().line(7), u"opt7 wert"_s);
+        QCOMPARE(doc().line(4), u"opt4 neu"_s);
+        QCOMPARE(doc().count(), 10);
+    }
+
+    // Enter in the name box or "Speichern als..." onto another existing file asks first; No keeps it.
+    void savingOverAnotherFileAsksFirst() {
+        const QString other = m_dir.filePath(u"andere.pro"_s);
+        writeFile(other, "bleibt\r\n");
+        action(u"mnuSpeichernAls"_s)->trigger();
+        auto* name = m_window->findChild<QLineEdit*>(u"txt_save"_s);
+        QVERIFY(name);
+        name->setText(other);
+        m_answer = Dialogs::Answer::No;
+        QTest::keyClick(name, Qt::Key_Return);
+        click(u"cmd_SaveAs"_s);
+        QCOMPARE(m_asked.size(), 2);
+        QVERIFY(m_asked.front().contains(u"überschrieben"_s));
+        QCOMPARE(readFile(other), QByteArray("bleibt\r\n"));
+
+        m_answer = Dialogs::Answer::Yes;
+        click(u"cmd_SaveAs"_s);
+        QCOMPARE(m_asked.size(), 3);
+        QVERIFY(readFile(other).startsWith("opt0 wert\r\n"));
+        QCOMPARE(doc().fileName(), other);
+    }
+
+    void longLineSurvivesTheEntryLine() {
+        const QString longLine = u"mapkey x "_s + QString(47510, u'a');
+        doc().setLine(2, longLine);
+        clickLine(2);
+        QCOMPARE(entry()->text().size(), longLine.size());
+        QTest::keyClick(entry(), Qt::Key_Return);
+        QCOMPARE(doc().line(2), longLine);
     }
 
     void deleteLeavesEmptyLinesAndInsertFillsOrPushes() {
