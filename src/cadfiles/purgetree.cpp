@@ -6,6 +6,7 @@
 #include "common/pathsplit.h"
 
 #include <QDir>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +20,9 @@ TreeRun::TreeRun(const QString& startFolder, const TreeOptions& options) : m_opt
         return;
     }
     m_result.folders.append(start);
+    // The start folder may be reached through a link; from here on it must stay the same folder.
+    const HeldFolder held(start, std::nullopt);
+    m_identities.append(held.isHeld() ? std::optional<FolderIdentity>(held.identity()) : std::nullopt);
 }
 
 bool TreeRun::step() {
@@ -52,30 +56,33 @@ void TreeRun::collectStep() {
         return;
     }
     const QString folder = m_result.folders.at(m_next);
-    DirectoryEntries entries = listDirectory(folder);
-    if (entries.exists && !entries.readable)
+    const HeldFolder held(folder, m_identities.at(m_next));
+    QList<FolderIdentity> identities;
+    DirectoryEntries entries = held.list(&identities);
+    if (held.wasSwapped())
+        m_result.skipped.append(folder);
+    else if (!entries.readable && listDirectory(folder).exists)
         m_result.unreadable.append(folder);
     m_collectedFiles.append(std::move(entries.files));
     if (m_options.recursive) {
+        QHash<QString, FolderIdentity> identityOf;
+        for (qsizetype i = 0; i < entries.folders.size(); ++i)
+            identityOf.insert(entries.folders.at(i), identities.value(i));
         sortLikeFileList(entries.folders);
-        for (const QString& name : std::as_const(entries.folders))
+        for (const QString& name : std::as_const(entries.folders)) {
             m_result.folders.append(joinFolderAndName(folder, name));
+            m_identities.append(identityOf.value(name));
+        }
     }
     ++m_next;
 }
 
-QStringList TreeRun::filesToDelete(const QString& folder) {
+QStringList TreeRun::filesToDelete(const QString& folder, const HeldFolder& held) {
     QStringList names;
-    if (m_options.dryRun) {
+    if (m_options.dryRun)
         names = std::move(m_collectedFiles[m_next]);
-    } else {
-        DirectoryEntries entries = listDirectory(folder);
-        if (!entries.exists) {
-            m_result.skipped.append(folder);
-            return {};
-        }
-        names = std::move(entries.files);
-    }
+    else
+        names = held.list(nullptr).files;
     sortLikeFileList(names);
     if (m_options.task == TreeTask::Purge)
         return purgeCandidates(folder, names);
@@ -92,8 +99,9 @@ void TreeRun::processStep() {
         return;
     }
     const QString folder = m_result.folders.at(m_next);
-    // A folder removed since it was collected is skipped, not an error.
-    if (!m_options.dryRun && !listDirectory(folder).exists) {
+    // A folder removed or swapped since it was collected is skipped, not an error.
+    const HeldFolder held(folder, m_identities.at(m_next));
+    if (!m_options.dryRun && !held.isHeld()) {
         m_result.skipped.append(folder);
         ++m_next;
         return;
@@ -103,15 +111,30 @@ void TreeRun::processStep() {
         ++m_next;
         return;
     }
-    const QStringList files = filesToDelete(folder);
+    const QStringList files = filesToDelete(folder, held);
     m_result.listed.append(files);
-    if (!m_options.dryRun && !files.isEmpty()) {
-        const DeleteReport report = deleteFiles(files, m_afterEach);
-        m_result.deletion.deleted.append(report.deleted);
-        m_result.deletion.vanished.append(report.vanished);
-        m_result.deletion.failed.append(report.failed);
-    }
+    if (!m_options.dryRun && !files.isEmpty())
+        deleteInFolder(folder, held, files);
     ++m_next;
+}
+
+void TreeRun::deleteInFolder(const QString& folder, const HeldFolder& held, const QStringList& paths) {
+    const qsizetype prefix = joinFolderAndName(folder, u"").size();
+    for (const QString& path : paths) {
+        switch (held.removeFile(path.mid(prefix))) {
+        case HeldFolder::Removal::Deleted:
+            m_result.deletion.deleted.append(path);
+            break;
+        case HeldFolder::Removal::Vanished:
+            m_result.deletion.vanished.append(path);
+            break;
+        case HeldFolder::Removal::Failed:
+            m_result.deletion.failed.append(path);
+            break;
+        }
+        if (m_afterEach)
+            m_afterEach();
+    }
 }
 
 QString TreeRun::progressText() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cadfiles/heldfolder.h"
 #include "cadfiles/purgedelete.h"
 
 #include <QString>
@@ -33,7 +34,9 @@ struct TreeResult {
 //
 // First the tree is collected: the start folder, then each collected folder's subfolders appended
 // in file list order (breadth first). Hidden folders and linked folders are never entered, so the
-// run stays inside the tree and a link loop cannot make it endless. Then each folder in turn is
+// run stays inside the tree and a link loop cannot make it endless. Each folder is held open while
+// it is listed and its files deleted, and must still be the folder that was found: one swapped for
+// a link during the run is skipped, never followed. Then each folder in turn is
 // analysed (purge) or matched against the patterns (clean); when an ask callback is set it is
 // asked with the folder's path first and a false skips that folder. Each step handles one folder.
 class TreeRun {
@@ -63,13 +66,16 @@ public:
 private:
     void collectStep();
     void processStep();
-    QStringList filesToDelete(const QString& folder);
+    QStringList filesToDelete(const QString& folder, const HeldFolder& held);
+    void deleteInFolder(const QString& folder, const HeldFolder& held, const QStringList& paths);
 
     TreeOptions m_options;
     TreeResult m_result;
     // The files each folder had when it was collected. A dry run uses them; a real run lists the
     // folder again right before deleting, so it decides on what is there now.
     QList<QStringList> m_collectedFiles;
+    // Beside each collected folder: the folder its path led to when it was found.
+    QList<std::optional<FolderIdentity>> m_identities;
     Ask m_ask;
     std::function<void()> m_afterEach;
     qsizetype m_next = 0; // next folder to enter (collecting) or to process

@@ -213,5 +213,48 @@ TEST_F(HostileTreeTest, DrawingCheckerHandlesOddFolderNames) {
     }
 }
 
+// An attacker swaps folders of the tree for links while a purge runs as root: a folder itself for
+// a link to a folder outside, and a parent, so that the path of a folder found below it now leads
+// outside. The run must skip both and delete nothing outside the tree.
+TEST(PurgeTreeSwap, FoldersSwappedForLinksDuringTheRunAreNeverFollowed) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString tree = dir.filePath(u"baum"_s);
+    const QString outside = dir.filePath(u"draussen"_s);
+    for (const QString& folder : {tree + u"/a"_s, tree + u"/b"_s, tree + u"/p/q"_s, outside, outside + u"/q"_s}) {
+        ASSERT_TRUE(QDir().mkpath(folder));
+        const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+        ASSERT_GE(fd, 0);
+        ASSERT_TRUE(writeFileAt(fd, "geheim.asm.1", "alt") && writeFileAt(fd, "geheim.asm.2", "neu"));
+        ::close(fd);
+    }
+    TreeRun run(tree, {TreeTask::Purge, {}, true, false});
+    bool swapped = false;
+    run.setAsk([&](const QString& folder) {
+        if (!swapped && folder.endsWith(u"/a"_s)) {
+            swapped = true;
+            // b is swapped for a link to the outside folder; p for a link to it too, so p/q is
+            // the outside q now.
+            EXPECT_TRUE(QDir(tree).rename(u"b"_s, u"b-alt"_s));
+            EXPECT_TRUE(QFile::link(outside, tree + u"/b"_s));
+            EXPECT_TRUE(QDir(tree).rename(u"p"_s, u"p-alt"_s));
+            EXPECT_TRUE(QFile::link(outside, tree + u"/p"_s));
+        }
+        return true;
+    });
+    run.runToEnd();
+    ASSERT_TRUE(swapped);
+
+    EXPECT_TRUE(QFile::exists(outside + u"/geheim.asm.1"_s));
+    EXPECT_TRUE(QFile::exists(outside + u"/q/geheim.asm.1"_s));
+    EXPECT_FALSE(QFile::exists(tree + u"/a/geheim.asm.1"_s));
+    EXPECT_TRUE(QFile::exists(tree + u"/b-alt/geheim.asm.2"_s));
+    for (const QString& deleted : run.result().deletion.deleted)
+        EXPECT_FALSE(deleted.contains(u"/b/"_s) || deleted.contains(u"/p/"_s)) << deleted.toStdString();
+    const QString skipped = run.result().skipped.join(u' ');
+    EXPECT_TRUE(run.result().skipped.contains(tree + u"/b"_s)) << skipped.toStdString();
+    EXPECT_TRUE(run.result().skipped.contains(tree + u"/p/q"_s)) << skipped.toStdString();
+}
+
 } // namespace
 } // namespace quenfor
