@@ -214,6 +214,13 @@ bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& un
 
 ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
     QFile file(path);
+    // A FIFO or device would block the reading or never end: only regular files are documents.
+    if (const QFileInfo info(path); info.exists() && !info.isDir() && !info.isFile()) {
+        ReadResult result;
+        result.error = u"%1 ist keine gewöhnliche Datei, sondern ein Gerät, eine FIFO oder ein Socket; "
+                       u"gelesen werden nur gewöhnliche Dateien."_s.arg(nativePath(path));
+        return result;
+    }
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
         const int err = errno;
         ReadResult result;

@@ -172,11 +172,16 @@ TEST_F(SaveFailureTest, SizeLimitAtAnyByteFailsTheSaveOrWritesItAll) {
             for (rlim_t limit = 1; limit <= size + 2; ++limit)
                 limits.push_back(limit);
         } else {
-            limits = {1, 2, 1023, 1024, 16383, 16384, 16385, size / 2, size - 16385, size - 16384, size - 2,
-                      size - 1, size, size + 1};
+            const qint64 n = qint64(size);
+            for (const qint64 limit : {qint64(1), qint64(2), qint64(1023), qint64(1024), qint64(16383), qint64(16384),
+                                       qint64(16385), n / 2, n - 16385, n - 16384, n - 2, n - 1, n, n + 1}) {
+                if (limit >= 1)
+                    limits.push_back(rlim_t(limit));
+            }
         }
         for (const rlim_t limit : limits) {
-            SCOPED_TRACE(QByteArray::number(expected.size()) + " bytes, limit " + QByteArray::number(qint64(limit)));
+            SCOPED_TRACE((QByteArray::number(expected.size()) + " bytes, limit " + QByteArray::number(qint64(limit)))
+                             .toStdString());
             ASSERT_TRUE(writeBytes(target(), oldBytes));
             int exitCode = -1;
             const QString error =
@@ -245,9 +250,9 @@ TEST_F(SaveFailureTest, OwnerModeAttributesAndHardLinksStay) {
     const QByteArray second = QFile::encodeName(m_dir.path() + u"/zweiter-name.pro"_s);
     ASSERT_EQ(link(file.constData(), second.constData()), 0);
     ASSERT_EQ(chmod(file.constData(), 0640), 0);
-    const bool root = geteuid() == 0;
-    if (root)
+    if (geteuid() == 0) {
         ASSERT_EQ(chown(file.constData(), 65534, 65534), 0);
+    }
     const bool attributes = setxattr(file.constData(), "user.quenfor", "42", 2, 0) == 0;
     struct stat before {};
     ASSERT_EQ(stat(file.constData(), &before), 0);
@@ -279,8 +284,9 @@ TEST_F(SaveFailureTest, OwnerModeAttributesAndHardLinksStay) {
     ASSERT_EQ(stat(file.constData(), &after), 0);
     EXPECT_EQ(after.st_uid, before.st_uid);
     EXPECT_EQ(after.st_mode & 07777, mode_t(0640));
-    if (attributes)
+    if (attributes) {
         EXPECT_EQ(getxattr(file.constData(), "user.quenfor", nullptr, 0), 2);
+    }
 }
 
 // Another program changed or replaced the file after it was read: the save must not throw that
