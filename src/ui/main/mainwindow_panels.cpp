@@ -74,9 +74,11 @@ void MainWindow::connectPanels() {
             return; // the chooser stays, so the user can pick another place
         }
         showFileLabel();
-        setStatus(saved.status);
         showCentre(m_list);
         applyFamilyOf(m_document->fileName());
+        setStatus(saved.status); // last: the family's own status must not hide the result
+        if (!saved.warning.isEmpty())
+            Dialogs::information(this, saved.warning);
     });
     connect(m_chooser, &FileChooserPanel::saveCopyRequested, this, [this, mayWrite](const QString& folder, const QString& name) {
         if (name.isEmpty() || !mayWrite(folder, name))

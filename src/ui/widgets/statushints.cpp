@@ -1,5 +1,6 @@
 #include "ui/widgets/statushints.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -7,14 +8,36 @@
 
 namespace quenfor {
 
-StatusHints::StatusHints(QLabel* statusLine, QObject* parent) : QObject(parent), m_statusLine(statusLine) {}
+StatusHints::StatusHints(QLabel* statusLine, QObject* parent) : QObject(parent), m_statusLine(statusLine) {
+    qApp->installEventFilter(this);
+}
 
-StatusHints::StatusHints(QLineEdit* statusLine, QObject* parent) : QObject(parent), m_statusEntry(statusLine) {}
+StatusHints::StatusHints(QLineEdit* statusLine, QObject* parent) : QObject(parent), m_statusEntry(statusLine) {
+    qApp->installEventFilter(this);
+}
+
+QString StatusHints::statusText() const {
+    if (m_statusLine)
+        return m_statusLine->text();
+    return m_statusEntry ? m_statusEntry->text() : QString();
+}
+
+void StatusHints::showHint(const QString& hint) {
+    m_lastHint = hint;
+    if (m_statusLine)
+        m_statusLine->setText(hint);
+    if (m_statusEntry)
+        m_statusEntry->setText(hint);
+}
 
 void StatusHints::add(QWidget* widget, const QString& hint) {
     m_hints.insert(widget, hint);
     widget->installEventFilter(this);
-    connect(widget, &QObject::destroyed, this, [this, widget] { m_hints.remove(widget); });
+    connect(widget, &QObject::destroyed, this, [this, widget] {
+        m_hints.remove(widget);
+        if (m_lastEntered == widget)
+            m_lastEntered = nullptr;
+    });
 }
 
 QString StatusHints::hintOf(const QWidget* widget) const {
@@ -22,14 +45,26 @@ QString StatusHints::hintOf(const QWidget* widget) const {
 }
 
 bool StatusHints::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Enter) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::KeyPress:
+        // The user acts: what the status line says now has been seen.
+        m_textAtLastAction = statusText();
+        break;
+    case QEvent::Enter: {
         const auto it = m_hints.constFind(watched);
-        if (it != m_hints.constEnd()) {
-            if (m_statusLine)
-                m_statusLine->setText(*it);
-            if (m_statusEntry)
-                m_statusEntry->setText(*it);
-        }
+        if (it == m_hints.constEnd())
+            break;
+        const QString shown = statusText();
+        const bool freshResult = !shown.isEmpty() && shown != m_lastHint && shown != m_textAtLastAction;
+        const bool sameControl = watched == m_lastEntered;
+        m_lastEntered = watched;
+        if (!(freshResult && sameControl))
+            showHint(*it);
+        break;
+    }
+    default:
+        break;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -11,7 +11,9 @@ class QWidget;
 namespace quenfor {
 
 // Writes a control's hint into the status line while the mouse is over the control, as the
-// program has always done instead of tooltips.
+// program has always done instead of tooltips. A result the program wrote there after the user's
+// last click or key stays readable: the pointer coming back onto the same control (as it does
+// when a menu closes) does not wipe it; moving on to another control, or acting, does.
 class StatusHints : public QObject {
     Q_OBJECT
 
@@ -27,7 +29,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QString statusText() const;
+    void showHint(const QString& hint);
+
     QPointer<QLabel> m_statusLine;
+    QString m_lastHint;
+    QString m_textAtLastAction;
+    const QObject* m_lastEntered = nullptr;
     QPointer<QLineEdit> m_statusEntry;
     QHash<const QObject*, QString> m_hints;
 };

@@ -247,6 +247,30 @@ private slots:
         QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
     }
 
+    // A menu's result stays readable when the pointer comes back onto the control it was on;
+    // the next control's hint replaces it.
+    void menuResultsStayUntilThePointerMovesOn() {
+        QWidget* viewport = list()->viewport();
+        auto* button = m_window->findChild<QAbstractButton*>(u"ontop"_s);
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(viewport, &enter);
+        const QString listHint = label(u"lblstatus"_s);
+        QVERIFY(!listHint.isEmpty());
+        QTest::mouseClick(viewport, Qt::LeftButton, {}, QPoint(2, 2));
+        action(u"mnuSpeichern"_s)->trigger();
+        QCOMPARE(label(u"lblstatus"_s), u"Datei wurde gespeichert"_s);
+        QApplication::sendEvent(viewport, &enter); // the menu closes over the list
+        QCOMPARE(label(u"lblstatus"_s), u"Datei wurde gespeichert"_s);
+        QApplication::sendEvent(button, &enter);
+        QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
+
+        // After "Speichern als..." the result is the save, not the reading of the picker's list.
+        action(u"mnuSpeichernAls"_s)->trigger();
+        m_window->findChild<QLineEdit*>(u"txt_save"_s)->setText(m_dir.filePath(u"neu.pro"_s));
+        click(u"cmd_SaveAs"_s);
+        QCOMPARE(label(u"lblstatus"_s), u"Datei wurde gespeichert"_s);
+    }
+
     void menusCarryTheirCaptionsInOrder() {
         QStringList captions;
         for (QAction* menuAction : m_window->menuBar()->actions()) {
