@@ -2,6 +2,7 @@
 // gets from "favorite"; a wrong cut loses part of a folder name or takes a slip for a name.
 #include "../common/qstringprinting.h"
 #include "knowledge/explanation.h"
+#include "document/documentfile.h"
 #include "knowledge/favorites.h"
 
 #include <QTemporaryDir>
@@ -102,3 +103,28 @@ TEST(Favorites, HelpTextIsTheFavouriteExplanation) {
 }
 
 } // namespace
+
+namespace quenfor {
+namespace {
+
+// The shipped sample teaches users the line's shape: every favourite in it must take apart into a
+// folder path and a name, not the other way round.
+TEST(Favorites, ShippedSampleNamesTheFolderBeforeTheName) {
+    const ReadResult sample = readDocumentFile(QStringLiteral(QUENFOR_TEST_DATA_DIR "/../../data/samples/config.pro"), {});
+    ASSERT_TRUE(sample.ok) << sample.error.toStdString();
+    int favourites = 0;
+    for (const QString& line : sample.lines) {
+        const FavoriteParts parts = takeFavoriteApart(line);
+        if (!parts.isFavorite)
+            continue;
+        ++favourites;
+        SCOPED_TRACE(line.toStdString());
+        EXPECT_TRUE(parts.path.contains(u'\\') || parts.path.contains(u'/'));
+        EXPECT_FALSE(parts.name.contains(u'\\') || parts.name.contains(u'/'));
+        EXPECT_GE(parts.name.size(), 2);
+    }
+    EXPECT_GT(favourites, 0);
+}
+
+} // namespace
+} // namespace quenfor

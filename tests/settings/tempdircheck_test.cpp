@@ -36,8 +36,9 @@ protected:
         EXPECT_EQ(check.message, message);
         EXPECT_TRUE(check.displayText.isEmpty());
         EXPECT_EQ(settingValue(Setting::TxtTempdir), settingDefinition(Setting::TxtTempdir).defaultValue);
-        if (QFileInfo(check.folder).isDir())
+        if (QFileInfo(check.folder).isDir()) {
             EXPECT_TRUE(QDir(check.folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).isEmpty());
+        }
     }
 
 private:

@@ -117,7 +117,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QSignalSpy finished(&window, &DrawingCheckerWindow::folderCheckFinished);
         QTest::mouseClick(window.findChild<QPushButton*>(u"cmd_check"_s), Qt::LeftButton);
-        QVERIFY(finished.count() == 1 || finished.wait(10000));
+        QVERIFY(finished.count() == 1 || finished.wait(60000));
 
         auto* differing = window.findChild<QListWidget*>(u"List1"_s);
         QCOMPARE(differing->count(), 2);
@@ -172,7 +172,7 @@ private slots:
 
         QSignalSpy finished(&window, &DrawingCheckerWindow::folderCheckFinished);
         QTest::mouseClick(window.findChild<QPushButton*>(u"cmd_check"_s), Qt::LeftButton);
-        QVERIFY(finished.count() == 1 || finished.wait(10000));
+        QVERIFY(finished.count() == 1 || finished.wait(60000));
         auto* differing = window.findChild<QListWidget*>(u"List1"_s);
         QCOMPARE(differing->count(), 2);
         QCOMPARE(differing->item(0)->text(), u"GEHAEUSE"_s);
@@ -195,7 +195,7 @@ private slots:
         QVERIFY(window.findChild<QPushButton*>(u"cmd_cancel"_s)->isVisible());
         QVERIFY(!window.findChild<QPushButton*>(u"cmd_check"_s)->isEnabled());
         QTest::mouseClick(window.findChild<QPushButton*>(u"cmd_cancel"_s), Qt::LeftButton);
-        QVERIFY(finished.count() == 1 || finished.wait(10000));
+        QVERIFY(finished.count() == 1 || finished.wait(60000));
         QVERIFY(!window.isChecking());
         const QString status = window.findChild<QLabel*>(u"lblStatus"_s)->text();
         // The worker may have finished before the click arrived; otherwise it says how far it got.

@@ -584,7 +584,7 @@ private slots:
     }
 
     void lineBreaksAndNamesAreSavedAsTyped() {
-        SkribbWindow window(QString());
+        SkribbWindow window{QString()};
         window.show();
         auto* box = child<QPlainTextEdit>(window, u"TextBox1"_s);
         box->setFocus();
