@@ -148,6 +148,25 @@ private slots:
         QCOMPARE(doc().fileName(), other);
     }
 
+    // Another program changed the file since it was opened: saving asks first, and No keeps the
+    // other program's version.
+    void savingAFileChangedOnDiskAsksFirst() {
+        writeFile(m_file, "von anderswo\r\n");
+        m_answer = Dialogs::Answer::No;
+        action(u"mnuSpeichern"_s)->trigger();
+        QCOMPARE(m_asked.size(), 2);
+        QVERIFY(m_asked.front().contains(u"von einem anderen Programm geändert"_s));
+        QCOMPARE(readFile(m_file), QByteArray("von anderswo\r\n"));
+
+        m_answer = Dialogs::Answer::Yes;
+        action(u"mnuSpeichern"_s)->trigger();
+        QVERIFY(readFile(m_file).startsWith("opt0 wert\r\n"));
+        // Saved once, the file is ours again: the next save asks nothing.
+        const qsizetype asked = m_asked.size();
+        action(u"mnuSpeichern"_s)->trigger();
+        QCOMPARE(m_asked.size(), asked);
+    }
+
     void longLineSurvivesTheEntryLine() {
         const QString longLine = u"mapkey x "_s + QString(47510, u'a');
         doc().setLine(2, longLine);
