@@ -62,7 +62,12 @@ void MainWindow::connectMenus() {
             Dialogs::information(this, u"Die Hilfedatei %1 existiert nicht."_s.arg(QDir::toNativeSeparators(path)));
             return;
         }
-        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+        if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+            setStatus(tr("Hilfedatei %1 wird geöffnet").arg(QDir::toNativeSeparators(path)));
+        else
+            Dialogs::information(this, tr("Die Hilfedatei %1 konnte nicht geöffnet werden: Das System kennt kein "
+                                          "Programm für diese Datei.")
+                                           .arg(QDir::toNativeSeparators(path)));
     });
     if (QAbstractButton* saveButton = m_tools->button(u"img_save"_s))
         connect(saveButton, &QAbstractButton::clicked, this, [this] { save(); });
@@ -86,6 +91,8 @@ void MainWindow::startUp(const QStringList& arguments) {
         showFileLabel();
         if (fileExists(path))
             note = openFile(path);
+        else
+            note = tr("Die Datei %1 gibt es noch nicht; \"Speichern\" legt sie an.").arg(QDir::toNativeSeparators(path));
     } else {
         const QString folder = settingValue(Setting::Dir1);
         if (folderExists(folder))
@@ -115,14 +122,18 @@ QString MainWindow::openFile(const QString& path) {
 }
 
 void MainWindow::appendStatusNote(const QString& note) {
-    if (!note.isEmpty() && !status().endsWith(note))
-        setStatus(status() + u" – "_s + note);
+    if (note.isEmpty() || status().endsWith(note))
+        return;
+    setStatus(status().isEmpty() ? note : status() + u" – "_s + note);
 }
 
 void MainWindow::openLastFile() {
     const QString last = settingValue(Setting::Label1);
-    if (!fileExists(last))
-        return; // nothing to do: the document keeps its lines
+    if (!fileExists(last)) {
+        // The document keeps its lines; the user learns why nothing opened.
+        setStatus(tr("Die zuletzt geöffnete Datei %1 gibt es nicht mehr.").arg(QDir::toNativeSeparators(last)));
+        return;
+    }
     openFile(last);
 }
 

@@ -87,6 +87,22 @@ private slots:
         Dialogs::setHandler({});
     }
 
+    // Actions that find nothing to do say so instead of doing nothing silently.
+    void actionsWithNothingToDoSaySo() {
+        action(u"mnuDoppelteMapkeys"_s)->trigger();
+        QCOMPARE(label(u"lblstatus"_s), u"keine doppelten Mapkeys vorhanden !"_s);
+
+        const QString gone = m_dir.filePath(u"weg.pro"_s);
+        QVERIFY(setSettingValue(Setting::Label1, gone));
+        click(u"cmd_last"_s);
+        QVERIFY2(label(u"lblstatus"_s).contains(u"gibt es nicht mehr"_s), qPrintable(label(u"lblstatus"_s)));
+        QCOMPARE(doc().count(), 10);
+
+        MainWindow fresh;
+        fresh.startUp({gone});
+        QVERIFY2(fresh.status().contains(u"gibt es noch nicht"_s), qPrintable(fresh.status()));
+    }
+
     void opensTheFileOfTheCommandLine() {
         QCOMPARE(doc().count(), 10);
         QCOMPARE(label(u"Label1"_s), QDir::toNativeSeparators(m_file));
