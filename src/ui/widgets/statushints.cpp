@@ -1,5 +1,6 @@
 #include "ui/widgets/statushints.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QLabel>
@@ -32,6 +33,10 @@ void StatusHints::showHint(const QString& hint) {
 
 void StatusHints::add(QWidget* widget, const QString& hint) {
     m_hints.insert(widget, hint);
+    // A button's face is often a single symbol: the hint also shows as its tooltip, where the
+    // pointer is, for users who do not watch the status line.
+    if (qobject_cast<QAbstractButton*>(widget) && widget->toolTip().isEmpty())
+        widget->setToolTip(hint);
     widget->installEventFilter(this);
     connect(widget, &QObject::destroyed, this, [this, widget] {
         m_hints.remove(widget);

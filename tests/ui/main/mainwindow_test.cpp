@@ -282,6 +282,18 @@ private slots:
         QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
     }
 
+    // Buttons that show only a symbol explain themselves where the pointer is.
+    void everyButtonOfTheMainWindowHasATooltip() {
+        QStringList bare;
+        for (QAbstractButton* button : m_window->findChildren<QAbstractButton*>()) {
+            const bool symbol = button->text().trimmed().size() <= 3;
+            if (symbol && !button->objectName().isEmpty() && !button->objectName().startsWith(u"qt_"_s) &&
+                button->toolTip().isEmpty())
+                bare.append(button->objectName() + u" \""_s + button->text() + u'"');
+        }
+        QVERIFY2(bare.isEmpty(), qPrintable(bare.join(u", "_s)));
+    }
+
     // A menu's result stays readable when the pointer comes back onto the control it was on;
     // the next control's hint replaces it.
     void menuResultsStayUntilThePointerMovesOn() {
