@@ -1,5 +1,7 @@
 #include "cadfiles/cleanpatterns.h"
 
+#include "common/rawfilenames.h"
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -38,7 +40,8 @@ CleaningPatterns::CleaningPatterns(const QString& patternText) {
 
 bool CleaningPatterns::matches(const QString& fileName) const {
     for (const QRegularExpression& pattern : m_patterns) {
-        if (pattern.match(fileName).hasMatch())
+        // Kept bytes of a Latin-1 name are matched as the characters they stand for.
+        if (pattern.match(readableFileName(fileName)).hasMatch())
             return true;
     }
     return false;

@@ -1,6 +1,6 @@
 #include "cadfiles/directorylisting.h"
 
-#include <QFile>
+#include "common/rawfilenames.h"
 
 #include <cerrno>
 #include <dirent.h>
@@ -15,7 +15,7 @@ DirectoryEntries listDirectory(const QString& folder) {
     DirectoryEntries entries;
     if (folder.isEmpty())
         return entries;
-    const QByteArray encoded = QFile::encodeName(folder);
+    const QByteArray encoded = encodeFileName(folder);
     struct stat folderStatus;
     if (::stat(encoded.constData(), &folderStatus) != 0) {
         // A folder whose status the system will not tell (path too long, a parent that may not
@@ -42,9 +42,9 @@ DirectoryEntries listDirectory(const QString& folder) {
             type = S_ISREG(st.st_mode) ? DT_REG : S_ISDIR(st.st_mode) ? DT_DIR : DT_UNKNOWN;
         }
         if (type == DT_REG)
-            entries.files.append(QFile::decodeName(entry->d_name));
+            entries.files.append(decodeFileName(entry->d_name));
         else if (type == DT_DIR)
-            entries.folders.append(QFile::decodeName(entry->d_name));
+            entries.folders.append(decodeFileName(entry->d_name));
     }
     ::closedir(dir);
     return entries;

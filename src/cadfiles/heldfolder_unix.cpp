@@ -1,6 +1,6 @@
 #include "cadfiles/heldfolder.h"
 
-#include <QFile>
+#include "common/rawfilenames.h"
 
 #include <cerrno>
 #include <dirent.h>
@@ -11,7 +11,7 @@
 namespace quenfor {
 
 HeldFolder::HeldFolder(const QString& path, const std::optional<FolderIdentity>& expected) : m_path(path) {
-    const QByteArray encoded = QFile::encodeName(path);
+    const QByteArray encoded = encodeFileName(path);
     // O_NOFOLLOW: a folder found before that is a link now was swapped, and is not entered.
     const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (expected ? O_NOFOLLOW : 0);
     m_handle = ::open(encoded.constData(), flags);
@@ -69,9 +69,9 @@ DirectoryEntries HeldFolder::list(QList<FolderIdentity>* folderIdentities) const
             type = S_ISREG(st.st_mode) ? DT_REG : S_ISDIR(st.st_mode) ? DT_DIR : DT_UNKNOWN;
         }
         if (type == DT_REG) {
-            entries.files.append(QFile::decodeName(entry->d_name));
+            entries.files.append(decodeFileName(entry->d_name));
         } else if (type == DT_DIR) {
-            entries.folders.append(QFile::decodeName(entry->d_name));
+            entries.folders.append(decodeFileName(entry->d_name));
             if (folderIdentities)
                 folderIdentities->append({quint64(st.st_dev), quint64(st.st_ino)});
         }
@@ -83,7 +83,7 @@ DirectoryEntries HeldFolder::list(QList<FolderIdentity>* folderIdentities) const
 HeldFolder::Removal HeldFolder::removeFile(const QString& name) const {
     if (m_handle < 0)
         return Removal::Vanished;
-    const QByteArray encoded = QFile::encodeName(name);
+    const QByteArray encoded = encodeFileName(name);
     struct stat st {};
     if (::fstatat(m_handle, encoded.constData(), &st, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISREG(st.st_mode))
         return Removal::Vanished;

@@ -109,8 +109,19 @@ void sortAsciiNames(QStringList& names) {
     names = std::move(sorted);
 }
 
+// The upper-case form; a kept byte of a name that is no UTF-8 (a lone surrogate, see
+// rawfilenames.h) stays itself, where toUpper would make every one U+FFFD and so mix the names.
 QString fullUpper(const QString& name) {
-    return name.toUpper();
+    QString key;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        if (name[i].isLowSurrogate() && !(i > 0 && name[i - 1].isHighSurrogate())) {
+            key += name.mid(start, i - start).toUpper();
+            key += name[i];
+            start = i + 1;
+        }
+    }
+    return start == 0 ? name.toUpper() : key + name.mid(start).toUpper();
 }
 
 } // namespace

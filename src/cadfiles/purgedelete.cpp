@@ -1,7 +1,15 @@
 #include "cadfiles/purgedelete.h"
 
+#include "common/rawfilenames.h"
+
 #include <QFile>
 #include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +42,25 @@ bool clearReadOnly(const QString& path) {
     return QFile::setPermissions(path, permissions | QFile::WriteOwner | QFile::WriteUser);
 }
 
+#ifdef Q_OS_UNIX
+// Names are bytes here (see rawfilenames.h); deleting needs no write permission on the file.
+DeleteReport deleteFiles(const QStringList& paths, const std::function<void()>& afterEach) {
+    DeleteReport report;
+    for (const QString& path : paths) {
+        const QByteArray bytes = encodeFileName(path);
+        struct stat st {};
+        if (::lstat(bytes.constData(), &st) != 0 || !S_ISREG(st.st_mode))
+            report.vanished.append(path);
+        else if (::unlink(bytes.constData()) == 0)
+            report.deleted.append(path);
+        else
+            (errno == ENOENT ? report.vanished : report.failed).append(path);
+        if (afterEach)
+            afterEach();
+    }
+    return report;
+}
+#else
 DeleteReport deleteFiles(const QStringList& paths, const std::function<void()>& afterEach) {
     DeleteReport report;
     for (const QString& path : paths) {
@@ -55,5 +82,6 @@ DeleteReport deleteFiles(const QStringList& paths, const std::function<void()>& 
     }
     return report;
 }
+#endif
 
 } // namespace quenfor

@@ -3,6 +3,7 @@
 #include "cadfiles/purgesettings.h"
 #include "cadfiles/purgetree.h"
 #include "cli/documentio.h"
+#include "common/rawfilenames.h"
 
 #include <QCoreApplication>
 
@@ -86,8 +87,11 @@ int runTree(const CliArgs& args, const CliStreams& io, TreeTask task, const QStr
         return kFailed;
     }
     const QStringList& printed = command.options.dryRun ? result.listed : result.deletion.deleted;
-    for (const QString& path : printed)
-        io.print(path + u'\n');
+    // The bytes of each name as they stand on the disk, as ls and find print them.
+    for (const QString& path : printed) {
+        io.out.write(encodeFileName(path));
+        io.out.write("\n");
+    }
     for (const QString& folder : result.unreadable)
         io.message(u"Nicht lesbar: %1"_s.arg(folder));
     for (const QString& path : result.deletion.vanished)

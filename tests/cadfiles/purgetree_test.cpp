@@ -15,6 +15,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -145,6 +149,42 @@ TEST(PurgeTree, staysInsideTheTreeAndSurvivesLinks) {
     expected.remove(u"tree/sub/x.log"_s);
     EXPECT_EQ(filesBelow(outside), expected);
     EXPECT_TRUE(QFileInfo(root + u"/sub/o.prt.1"_s).isSymLink());
+}
+
+// Names of a Latin-1 share are no UTF-8. Each must keep its bytes from listing to delete: the
+// older Latin-1 version goes, and a valid name that a lossy decoding would confuse with it (the
+// only version of its own object) stays.
+TEST(PurgeTree, latin1NamesAreDeletedByTheirOwnBytes) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QByteArray folder = QFile::encodeName(dir.path());
+    const QByteArray sub = folder + "/Geh\xE4use";
+    ASSERT_EQ(::mkdir(sub.constData(), 0755), 0);
+    const QList<QByteArray> names = {"Geh\xE4use.prt.1", "Geh\xE4use.prt.2", "inv\xEF\xBF\xBD.prt.1",
+                                     "inv\xE4.prt.1", "inv\xE4.prt.2", "Geh\xE4use/teil\xFC.asm.3",
+                                     "Geh\xE4use/teil\xFC.asm.4", "notiz\xE4.bak"};
+    for (const QByteArray& name : names) {
+        const int fd = ::open((folder + '/' + name).constData(), O_WRONLY | O_CREAT | O_EXCL, 0644);
+        ASSERT_GE(fd, 0) << name.toHex().toStdString();
+        ::close(fd);
+    }
+    const auto exists = [&](const QByteArray& name) { return ::access((folder + '/' + name).constData(), F_OK) == 0; };
+
+    const TreeResult purge = runTree(dir.path(), TreeTask::Purge, false);
+    EXPECT_EQ(purge.deletion.deleted.size(), 3) << purge.deletion.summary().toStdString();
+    EXPECT_TRUE(purge.deletion.vanished.isEmpty());
+    EXPECT_FALSE(exists("Geh\xE4use.prt.1"));
+    EXPECT_FALSE(exists("inv\xE4.prt.1"));
+    EXPECT_FALSE(exists("Geh\xE4use/teil\xFC.asm.3"));
+    for (const QByteArray& kept : {QByteArray("Geh\xE4use.prt.2"), QByteArray("inv\xEF\xBF\xBD.prt.1"),
+                                   QByteArray("inv\xE4.prt.2"), QByteArray("Geh\xE4use/teil\xFC.asm.4")})
+        EXPECT_TRUE(exists(kept)) << kept.toHex().toStdString();
+
+    const TreeResult clean = runTree(dir.path(), TreeTask::Clean, false, u"*.bak"_s);
+    EXPECT_EQ(clean.deletion.deleted.size(), 1);
+    EXPECT_FALSE(exists("notiz\xE4.bak"));
+    EXPECT_EQ(deleteFiles({dir.path() + u"/Geh"_s + QChar(0xDCE4) + u"use.prt.2"_s}).deleted.size(), 1);
+    EXPECT_FALSE(exists("Geh\xE4use.prt.2"));
 }
 
 TEST(PurgeTree, askedFoldersAreSkippedOnNo) {

@@ -10,6 +10,8 @@
 #include <QBuffer>
 #include <QDir>
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -78,6 +80,21 @@ TEST_F(PurgeCliTest, trailingSeparatorKeepsTheNewestVersion) {
     EXPECT_TRUE(QFile::exists(path(u"w/sub/s.drw.10"_s)));
     EXPECT_FALSE(QFile::exists(path(u"w/p.prt.1"_s)));
     EXPECT_FALSE(QFile::exists(path(u"w/sub/s.drw.9"_s)));
+}
+
+// A Latin-1 name is printed with its own bytes, so a script can act on exactly that file.
+TEST_F(PurgeCliTest, latin1NamesArePrintedByteForByte) {
+    const QByteArray folder = QFile::encodeName(path(u"w"_s));
+    for (const char* name : {"/Geh\xE4use.prt.1", "/Geh\xE4use.prt.2"}) {
+        const QByteArray bytes = folder + name;
+        FILE* f = std::fopen(bytes.constData(), "w");
+        ASSERT_NE(f, nullptr);
+        std::fclose(f);
+    }
+    const CliRun r = run({u"purge"_s, u"-n"_s, path(u"w"_s)});
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.out.contains(folder + "/Geh\xE4use.prt.1\n")) << r.out.toStdString();
+    EXPECT_FALSE(r.out.contains("Geh\xE4use.prt.2"));
 }
 
 TEST_F(PurgeCliTest, cleanTakesPatternsInEitherPlace) {

@@ -10,6 +10,7 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "ui/widgets/dialogs.h"
+#include "ui/widgets/readablenamedelegate.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/formwidgets.h"
 #include "ui/widgets/panelheader.h"
@@ -50,6 +51,7 @@ QListView* makeList(const QString& name, QStringListModel* model, QWidget* paren
     auto* list = new QListView(parent);
     list->setObjectName(name);
     list->setModel(model);
+    list->setItemDelegate(new ReadableNameDelegate(list));
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setUniformItemSizes(true);
     return list;
