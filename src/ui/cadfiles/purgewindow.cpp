@@ -424,13 +424,17 @@ void PurgeWindow::finishRun() {
         // Back to the folder where the run started.
         if (!result.folders.isEmpty())
             setCurrentFolder(result.folders.front());
-    } else if (m_cleanListed >= 0) {
-        // The clean counts the files it listed, also those it could not delete.
+    } else if (m_cleanListed >= 0 && !m_cancelRequested) {
+        // A finished clean counts the files it listed, also those it could not delete.
         text = tr("%1 gelöscht").arg(m_cleanListed);
         if (!m_failed.isEmpty())
             text += tr(", davon %1 nicht löschbar").arg(m_failed.size());
     } else {
+        // A cancelled run can only count what it really did; the rest stays where it was.
         text = DeleteReport{m_deleted, m_vanished, m_failed}.summary();
+        const qsizetype untouched = m_pendingDeletes.size() - m_deleteIndex;
+        if (untouched > 0)
+            text += tr(", %1 nicht bearbeitet").arg(untouched);
     }
     if (m_cancelRequested)
         text = tr("Abgebrochen: ") + text;

@@ -117,6 +117,19 @@ private slots:
         QVERIFY(QFile::exists(path(u"w/sub/y.inf"_s)));
     }
 
+    void cancelledCleanCountsOnlyWhatItDeleted() {
+        for (int i = 0; i < 5; ++i)
+            touch(u"w/run%1.log"_s.arg(i));
+        PurgeWindow window;
+        click(window, u"cmd_clean"_s);
+        // Cancelled before its first slice ran: nothing is gone, and the status must say so.
+        click(window, u"cmd_cancel"_s);
+        waitForRun(window);
+        QCOMPARE(statusOf(window), u"Abgebrochen: 0 gelöscht, 6 nicht bearbeitet"_s);
+        QVERIFY(QFile::exists(path(u"w/x.log"_s)));
+        QVERIFY(QFile::exists(path(u"w/run4.log"_s)));
+    }
+
     void optionsFrameBuildsThePatternList() {
         PurgeWindow window;
         click(window, u"cmd_what"_s);
