@@ -4,6 +4,9 @@
 
 #include <QDir>
 
+#include <array>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -19,6 +22,12 @@ const QStringList kOpenActions = {
     u"~ Trail `UI Desktop` `UI Desktop` `DLG_PREVIEW_POST` `file_open`;"_s,
     u"~ Update `file_open` `Inputname` `%DATEI%`;"_s,
     u"~ Command `ProFileSelPushOpen@context_dlg_open_cmd`;"_s,
+};
+
+const QStringList kSaveAndCloseActions = {
+    u"~ Command `ProCmdModelSave` ;"_s,
+    u"~ Activate `file_saveas` `OK`;"_s,
+    u"~ Command `ProCmdWinCloseGroup` ;"_s,
 };
 
 // A character that would end an action, a quoted text or the line early.
@@ -91,6 +100,34 @@ QString mapkeyHead(const QString& key, QString label) {
 
 } // namespace
 
+QString substitutePlaceholders(QStringView action, const PlaceholderValues& values) {
+    const std::array<std::pair<QStringView, const QString*>, 3> placeholders{{
+        {QStringView(kFilePlaceholder), &values.file},
+        {QStringView(kPathPlaceholder), &values.path},
+        {QStringView(kFolderPlaceholder), &values.folder},
+    }};
+    QString out;
+    out.reserve(action.size());
+    qsizetype i = 0;
+    while (i < action.size()) {
+        bool replaced = false;
+        if (action[i] == u'%') {
+            for (const auto& [placeholder, value] : placeholders) {
+                if (action.sliced(i).startsWith(placeholder)) {
+                    // The value goes in as it is: a "%DATEI%" inside a name stays text.
+                    out += *value;
+                    i += placeholder.size();
+                    replaced = true;
+                    break;
+                }
+            }
+        }
+        if (!replaced)
+            out += action[i++];
+    }
+    return out;
+}
+
 QList<MapkeyTemplate> defaultMapkeyTemplates() {
     return {
         {u"oeffnen"_s, u"Öffnen"_s, defaultActions(u"oeffnen"_s)},
@@ -102,12 +139,13 @@ QList<MapkeyTemplate> defaultMapkeyTemplates() {
 QStringList defaultActions(const QString& id) {
     if (id == u"oeffnen")
         return kOpenActions;
+    // A regeneration is worth nothing unsaved, and each file of a batch opens a window of its own:
+    // every template that changes a model saves it and closes its window again, or N files leave N
+    // windows in the session.
     if (id == u"regenerieren")
-        return kOpenActions + QStringList{u"~ Command `ProCmdRegenPart` ;"_s};
-    // Saving many files one after the other: each window is closed again, or the session fills up.
+        return kOpenActions + QStringList{u"~ Command `ProCmdRegenPart` ;"_s} + kSaveAndCloseActions;
     if (id == u"speichern")
-        return kOpenActions + QStringList{u"~ Command `ProCmdModelSave` ;"_s, u"~ Activate `file_saveas` `OK`;"_s,
-                                          u"~ Command `ProCmdWinCloseGroup` ;"_s};
+        return kOpenActions + kSaveAndCloseActions;
     return {};
 }
 
@@ -239,15 +277,10 @@ BatchResult generateBatchMapkeys(const QString& folder, const QStringList& fileN
                 quoted(name), shownCharacter(c));
             continue;
         }
-        const QString path = joinFolderAndName(nativeFolder, name);
+        const PlaceholderValues values{name, joinFolderAndName(nativeFolder, name), nativeFolder};
         QString body;
-        for (QString action : tmpl.actions) {
-            action = action.trimmed();
-            action.replace(QString::fromUtf16(kFilePlaceholder), name);
-            action.replace(QString::fromUtf16(kPathPlaceholder), path);
-            action.replace(QString::fromUtf16(kFolderPlaceholder), nativeFolder);
-            body += action;
-        }
+        for (const QString& action : tmpl.actions)
+            body += substitutePlaceholders(action.trimmed(), values);
         // The key is not known yet; a stand-in of the longest key's length tests the fit.
         const QStringList trial =
             wrapMapkey(mapkeyHead(QString(kMaxKeyLength + 6, u'x'), tmpl.name + u' ' + name) + body);

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 namespace quenfor {
 
@@ -14,6 +15,17 @@ inline constexpr qsizetype kMaxMapkeyLineLength = 98;
 inline constexpr char16_t kFilePlaceholder[] = u"%DATEI%";    // bracket.prt
 inline constexpr char16_t kPathPlaceholder[] = u"%PFAD%";     // the full path, native separators
 inline constexpr char16_t kFolderPlaceholder[] = u"%ORDNER%"; // the folder, native separators
+
+// What the placeholders stand for with one file.
+struct PlaceholderValues {
+    QString file;   // %DATEI%
+    QString path;   // %PFAD%
+    QString folder; // %ORDNER%
+};
+
+// Replaces every placeholder of action in one pass from left to right, so that a name or folder
+// that itself holds a placeholder's text is inserted as it is and never expanded again.
+QString substitutePlaceholders(QStringView action, const PlaceholderValues& values);
 
 // One kind of batch run: what the mapkey of each file does, as trail actions, each ending in ";".
 struct MapkeyTemplate {
@@ -36,7 +48,7 @@ struct BatchParameters {
 
 inline constexpr int kMaxFirstNumber = 99999;
 
-// The three templates: open; open, regenerate and close; open, save and close.
+// The three templates: open; open, regenerate, save and close; open, save and close.
 QList<MapkeyTemplate> defaultMapkeyTemplates();
 BatchParameters defaultBatchParameters();
 // The default actions of a template id; empty for an unknown id.

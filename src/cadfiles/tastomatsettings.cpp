@@ -14,6 +14,13 @@ const QString kApplication = u"Tastomat"_s;
 const QString kOptions = u"Optionen"_s;
 const QString kParameters = u"Parameter"_s;
 
+// Earlier releases shipped "regenerieren" without saving and closing, and every close stored it.
+// That stored default is taken for the current one; actions the user changed stay as they are.
+bool isRetiredDefault(const QString& id, const QStringList& actions) {
+    return id == u"regenerieren" &&
+           actions == defaultActions(u"oeffnen"_s) + QStringList{u"~ Command `ProCmdRegenPart` ;"_s};
+}
+
 } // namespace
 
 TastomatSettings loadTastomatSettings() {
@@ -40,7 +47,7 @@ TastomatSettings loadTastomatSettings() {
     for (MapkeyTemplate& tmpl : parameters.templates) {
         const QStringList actions =
             store.value(kParameters, tmpl.id, tmpl.actions.join(u'\n')).split(u'\n', Qt::SkipEmptyParts);
-        if (checkActions(tmpl.name, actions).isEmpty())
+        if (checkActions(tmpl.name, actions).isEmpty() && !isRetiredDefault(tmpl.id, actions))
             tmpl.actions = actions;
     }
     return settings;

@@ -141,6 +141,18 @@ TEST_F(TastomatSettingsTest, RoundTripsEveryValue) {
     EXPECT_EQ(loaded.parameters, settings.parameters);
 }
 
+TEST_F(TastomatSettingsTest, TheRegenerationStoredWithoutSavingGivesWayToTheCurrentTemplate) {
+    SettingsStore store(u"Tastomat"_s);
+    const QStringList retired = defaultActions(u"oeffnen"_s) + QStringList{u"~ Command `ProCmdRegenPart` ;"_s};
+    store.setValue(u"Parameter"_s, u"regenerieren"_s, retired.join(u'\n'));
+    EXPECT_EQ(loadTastomatSettings().parameters.templates.at(1).actions, defaultActions(u"regenerieren"_s));
+    EXPECT_TRUE(defaultActions(u"regenerieren"_s).endsWith(u"~ Command `ProCmdWinCloseGroup` ;"_s));
+    // Actions the user wrote are kept as they are.
+    const QStringList own = retired + QStringList{u"~ Command `ProCmdModelSave` ;"_s};
+    store.setValue(u"Parameter"_s, u"regenerieren"_s, own.join(u'\n'));
+    EXPECT_EQ(loadTastomatSettings().parameters.templates.at(1).actions, own);
+}
+
 TEST_F(TastomatSettingsTest, DamagedValuesFallBackToTheDefaults) {
     SettingsStore store(u"Tastomat"_s);
     store.setValue(u"Parameter"_s, u"praefix"_s, u"q m"_s);

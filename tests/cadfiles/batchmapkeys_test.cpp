@@ -4,6 +4,7 @@
 #include "cadfiles/batchmapkeys.h"
 #include "knowledge/mapkeytools.h"
 
+#include <QHash>
 #include <QRandomGenerator>
 #include <QSet>
 
@@ -154,6 +155,58 @@ TEST(BatchMapkeys, PlaceholdersTakeTheFileItsPathAndItsFolder) {
     const BatchResult refused = generateBatchMapkeys(u"/da;ten"_s, {u"b.prt"_s}, tmpl, defaultBatchParameters());
     EXPECT_TRUE(refused.parametersRefused);
     EXPECT_TRUE(refused.lines.isEmpty());
+}
+
+TEST(BatchMapkeys, PlaceholdersAreReplacedInOnePassSoNamesHoldingThemStayAsTheyAre) {
+    const MapkeyTemplate tmpl{
+        u"eigen"_s,
+        u"Eigen"_s,
+        {u"~ Update `a` `%PFAD%`;"_s, u"~ Update `b` `%ORDNER%`;"_s, u"~ Update `c` `%DATEI%`;"_s}};
+    const QStringList names = {u"x%ORDNER%.prt"_s, u"%PFAD%%DATEI%.asm"_s};
+    const BatchResult result = generateBatchMapkeys(u"/w/%DATEI%"_s, names, tmpl, defaultBatchParameters());
+    ASSERT_EQ(result.files, names);
+    const QStringList mapkeys = unwrap(result.lines);
+    ASSERT_EQ(mapkeys.size(), 2);
+    EXPECT_EQ(mapkeys.at(0), u"mapkey qm1 @MAPKEY_LABELEigen x%ORDNER%.prt;~ Update `a` `/w/%DATEI%/x%ORDNER%.prt`;"
+                             u"~ Update `b` `/w/%DATEI%`;~ Update `c` `x%ORDNER%.prt`;"_s);
+    EXPECT_EQ(mapkeys.at(1), u"mapkey qm2 @MAPKEY_LABELEigen %PFAD%%DATEI%.asm;"
+                             u"~ Update `a` `/w/%DATEI%/%PFAD%%DATEI%.asm`;~ Update `b` `/w/%DATEI%`;"
+                             u"~ Update `c` `%PFAD%%DATEI%.asm`;"_s);
+
+    const PlaceholderValues values{u"f"_s, u"p"_s, u"o"_s};
+    EXPECT_EQ(substitutePlaceholders(u"%%DATEI%%PFAD%%ORDNER%%"_s, values), u"%fpo%"_s);
+    EXPECT_EQ(substitutePlaceholders(u"%DATEI %pfad% %ORDNER"_s, values), u"%DATEI %pfad% %ORDNER"_s);
+}
+
+TEST(BatchMapkeys, EveryShippedTemplateDoesWhatItsNameSays) {
+    const QString open = u"~ Command `ProCmdModelOpen` ;~ Trail `UI Desktop` `UI Desktop` `DLG_PREVIEW_POST` "
+                         u"`file_open`;~ Update `file_open` `Inputname` `bracket.prt`;"
+                         u"~ Command `ProFileSelPushOpen@context_dlg_open_cmd`;"_s;
+    // A template that changes the model saves it and closes its window, or a batch of N files
+    // leaves N windows open.
+    const QString saveAndClose =
+        u"~ Command `ProCmdModelSave` ;~ Activate `file_saveas` `OK`;~ Command `ProCmdWinCloseGroup` ;"_s;
+    const QHash<QString, QString> expected = {
+        {u"oeffnen"_s, u"mapkey qm1 @MAPKEY_LABELÖffnen bracket.prt;"_s + open},
+        {u"regenerieren"_s, u"mapkey qm1 @MAPKEY_LABELÖffnen und regenerieren bracket.prt;"_s + open +
+                                u"~ Command `ProCmdRegenPart` ;"_s + saveAndClose},
+        {u"speichern"_s, u"mapkey qm1 @MAPKEY_LABELÖffnen und speichern bracket.prt;"_s + open + saveAndClose},
+    };
+    const QList<MapkeyTemplate> shipped = defaultMapkeyTemplates();
+    ASSERT_EQ(shipped.size(), expected.size());
+    for (const MapkeyTemplate& tmpl : shipped) {
+        SCOPED_TRACE(tmpl.id.toStdString());
+        ASSERT_TRUE(expected.contains(tmpl.id));
+        BatchParameters parameters = defaultBatchParameters();
+        parameters.collectorKey = u"alle"_s;
+        const BatchResult result = generateBatchMapkeys(u"/w"_s, {u"bracket.prt"_s}, tmpl, parameters);
+        ASSERT_TRUE(result.problems.isEmpty()) << result.problems.join(u'\n').toStdString();
+        EXPECT_EQ(result.lines.first(), u"! quenfor Mapkey-Generator, Vorlage \"%1\": 1 Mapkeys"_s.arg(tmpl.name));
+        EXPECT_EQ(unwrap(result.lines),
+                  (QStringList{expected.value(tmpl.id),
+                               u"mapkey alle @MAPKEY_LABELalle 1 Mapkeys: %1;%qm1;"_s.arg(tmpl.name)}));
+        expectValidConfig(result);
+    }
 }
 
 TEST(BatchMapkeys, ALongLabelIsCutButTheFirstLineStaysAMapkey) {

@@ -139,8 +139,12 @@ void PurgeWindow::buildWidgets() {
                     "*.bom*;*.inf*;*.m_p*;*.log*;*.ptd*;*.idx*;*.pls*;*.crc*;*.out*;*.tst*;*.err*;*.lst*;*.als*"));
     m_patterns = new QLineEdit(this);
     m_patterns->setObjectName(u"txt_cleaningOptions"_s);
-    // The list below always shows what a clean would delete now.
-    connect(m_patterns, &QLineEdit::textEdited, this, &PurgeWindow::refreshFileLists);
+    // The clean list keeps the patterns applied on load or by OK: what it shows is what "clean"
+    // deletes, never the half-typed text of the box.
+    connect(m_patterns, &QLineEdit::textEdited, this, [this] {
+        m_status->setText(tr("Die Muster im Feld gelten ab dem nächsten Öffnen; \"clean\" löscht die angezeigte "
+                             "Liste (ändern mit \"Endungen\" und OK)."));
+    });
     m_cleanList = makeList(u"File2"_s, m_cleanFiles, this);
     connect(m_cleanList, &QListView::clicked, this,
             [this](const QModelIndex& index) { showChangeTime(index, m_cleanFiles, false); });
@@ -282,14 +286,19 @@ void PurgeWindow::refreshFileLists() {
     DirectoryEntries entries = listDirectory(m_folder);
     sortLikeFileList(entries.files);
     m_files->setStringList(entries.files);
-    m_cleanFiles->setStringList(CleaningPatterns(m_patterns->text()).filter(entries.files));
+    m_cleanFiles->setStringList(CleaningPatterns(m_cleanPatterns).filter(entries.files));
 }
 
 void PurgeWindow::applyPatternText(const QString& text) {
+    showPatternText(text);
+    m_cleanPatterns = text;
+    refreshFileLists();
+}
+
+void PurgeWindow::showPatternText(const QString& text) {
     m_patterns->setText(text);
     m_extensions->clear();
     m_extensions->addItems(extensionsFromPatterns(text));
-    refreshFileLists();
 }
 
 void PurgeWindow::analyse() {
@@ -358,11 +367,11 @@ void PurgeWindow::startListDelete(const QStringList& paths, bool isClean) {
 void PurgeWindow::startTreeRun(bool isClean) {
     if (isRunning())
         return;
-    if (isClean && CleaningPatterns(m_patterns->text()).isEmpty()) {
+    if (isClean && CleaningPatterns(m_cleanPatterns).isEmpty()) {
         m_status->setText(tr("Die Liste der Endungen ist leer: es wird nichts gelöscht."));
         return;
     }
-    TreeOptions options{isClean ? TreeTask::Clean : TreeTask::Purge, m_patterns->text(), true, false};
+    TreeOptions options{isClean ? TreeTask::Clean : TreeTask::Purge, m_cleanPatterns, true, false};
     m_tree = std::make_unique<TreeRun>(m_folder, options);
     QCheckBox* ask = isClean ? m_askClean : m_askPurge;
     if (ask->isChecked()) {
@@ -426,13 +435,17 @@ void PurgeWindow::finishRun() {
         // Back to the folder where the run started.
         if (!result.folders.isEmpty())
             setCurrentFolder(result.folders.front());
-    } else if (m_cleanListed >= 0) {
-        // The clean counts the files it listed, also those it could not delete.
+    } else if (m_cleanListed >= 0 && !m_cancelRequested) {
+        // A finished clean counts the files it listed, also those it could not delete.
         text = tr("%1 gelöscht").arg(m_cleanListed);
         if (!m_failed.isEmpty())
             text += tr(", davon %1 nicht löschbar").arg(m_failed.size());
     } else {
+        // A cancelled run can only count what it really did; the rest stays where it was.
         text = DeleteReport{m_deleted, m_vanished, m_failed}.summary();
+        const qsizetype untouched = m_pendingDeletes.size() - m_deleteIndex;
+        if (untouched > 0)
+            text += tr(", %1 nicht bearbeitet").arg(untouched);
     }
     if (m_cancelRequested)
         text = tr("Abgebrochen: ") + text;
@@ -486,13 +499,16 @@ void PurgeWindow::applyOptions() {
     QStringList extensions;
     for (int i = 0; i < m_extensions->count(); ++i)
         extensions.append(m_extensions->item(i)->text());
-    m_patterns->setText(patternsFromExtensions(extensions));
+    // The extensions list stays as entered; it is cut into 3-character pieces only on the next load.
+    m_cleanPatterns = patternsFromExtensions(extensions);
+    m_patterns->setText(m_cleanPatterns);
     refreshFileLists();
     m_optionsFrame->hide();
 }
 
 void PurgeWindow::resetPatterns() {
-    applyPatternText(defaultCleaningPatterns());
+    // Like any change of the list, the defaults reach the clean list with OK.
+    showPatternText(defaultCleaningPatterns());
 }
 
 void PurgeWindow::closeEvent(QCloseEvent* event) {

@@ -63,7 +63,8 @@ private:
     void chooseDrive(int index);
     void showCurrentFolder();
     void refreshFileLists();
-    void applyPatternText(const QString& text);
+    void applyPatternText(const QString& text); // shows the text and makes the clean list follow it
+    void showPatternText(const QString& text);  // text box and extensions list only
     void startListDelete(const QStringList& paths, bool isClean);
     void startTreeRun(bool isClean);
     void runSlice();
@@ -77,6 +78,7 @@ private:
     void resetPatterns();
 
     QString m_folder;
+    QString m_cleanPatterns; // File2's patterns: set on load and by OK, not by typing in the box
     std::unique_ptr<TreeRun> m_tree;
     QStringList m_pendingDeletes;
     qsizetype m_deleteIndex = 0;

@@ -6,7 +6,9 @@
 #include "ui/widgets/dialogs.h"
 #include "ui/widgets/statushints.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
@@ -40,6 +42,14 @@ private:
         auto* b = window.findChild<QPushButton*>(button);
         QVERIFY2(b, qPrintable(button));
         b->click();
+    }
+
+    static QStringList cleanList(PurgeWindow& window) {
+        const QAbstractItemModel* model = window.findChild<QListView*>(u"File2"_s)->model();
+        QStringList names;
+        for (int row = 0; row < model->rowCount(); ++row)
+            names.append(model->index(row, 0).data().toString());
+        return names;
     }
 
     static void waitForRun(PurgeWindow& window) { QTRY_VERIFY_WITH_TIMEOUT(!window.isRunning(), 10000); }
@@ -104,17 +114,52 @@ private slots:
         QVERIFY(!QFile::exists(path(u"w/p.prt.2"_s)));
     }
 
-    void cleanUsesTheTextBoxAndCountsTheListedFiles() {
+    void cleanListFollowsThePatternsOnlyOnLoadAndOk() {
         PurgeWindow window;
         auto* patterns = window.findChild<QLineEdit*>(u"txt_cleaningOptions"_s);
         QCOMPARE(patterns->text(), u"*.bomx*;*.log*"_s);
-        QTest::keyClicks(patterns, u";*.txt*"_s);
+        QCOMPARE(cleanList(window), QStringList{u"x.log"_s});
+        QTest::keyClick(patterns, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(patterns, u"*"_s);
+        QCOMPARE(patterns->text(), u"*"_s);
+        // Typing changes neither the list nor what a clean deletes, and the user is told so.
+        QCOMPARE(cleanList(window), QStringList{u"x.log"_s});
+        QVERIFY2(statusOf(window).contains(u"nächsten Öffnen"_s), qPrintable(statusOf(window)));
+        window.setCurrentFolder(path(u"w/sub"_s));
+        QCOMPARE(cleanList(window), QStringList());
+        window.setCurrentFolder(path(u"w"_s));
         click(window, u"cmd_clean"_s);
         waitForRun(window);
-        QCOMPARE(statusOf(window), u"2 gelöscht"_s);
+        QCOMPARE(statusOf(window), u"1 gelöscht"_s);
         QVERIFY(!QFile::exists(path(u"w/x.log"_s)));
-        QVERIFY(!QFile::exists(path(u"w/trail.txt.3"_s)));
+        for (const QString& name : {u"w/p.prt.1"_s, u"w/p.prt.10"_s, u"w/q.asm.1"_s, u"w/trail.txt.3"_s})
+            QVERIFY2(QFile::exists(path(name)), qPrintable(name));
+        // The clean of the tree takes the same patterns.
+        click(window, u"Command3"_s);
+        waitForRun(window);
         QVERIFY(QFile::exists(path(u"w/sub/y.inf"_s)));
+        QVERIFY(QFile::exists(path(u"w/sub/s.drw.9"_s)));
+        // OK in the options frame applies its list of extensions.
+        click(window, u"cmd_what"_s);
+        window.findChild<QLineEdit*>(u"add"_s)->setText(u"inf"_s);
+        click(window, u"cmd_add"_s);
+        click(window, u"cmd_ok"_s);
+        QCOMPARE(patterns->text(), u"*.bom*;*..lo*;*.inf*"_s);
+        window.setCurrentFolder(path(u"w/sub"_s));
+        QCOMPARE(cleanList(window), QStringList{u"y.inf"_s});
+    }
+
+    void cancelledCleanCountsOnlyWhatItDeleted() {
+        for (int i = 0; i < 5; ++i)
+            touch(u"w/run%1.log"_s.arg(i));
+        PurgeWindow window;
+        click(window, u"cmd_clean"_s);
+        // Cancelled before its first slice ran: nothing is gone, and the status must say so.
+        click(window, u"cmd_cancel"_s);
+        waitForRun(window);
+        QCOMPARE(statusOf(window), u"Abgebrochen: 0 gelöscht, 6 nicht bearbeitet"_s);
+        QVERIFY(QFile::exists(path(u"w/x.log"_s)));
+        QVERIFY(QFile::exists(path(u"w/run4.log"_s)));
     }
 
     void optionsFrameBuildsThePatternList() {
@@ -169,16 +214,43 @@ private slots:
         QVERIFY(QFile::exists(path(u"w/sub/y.inf"_s)));
     }
 
+    // Every control is inside the window, shows its whole caption and overlaps no other; the lists
+    // have room for a few lines. Checked with the options frame open, the fullest state.
     void looksRight() {
         PurgeWindow window;
         window.show();
-        window.findChild<QPushButton*>(u"cmd_what"_s)->click();
+        click(window, u"cmd_what"_s);
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         const QString shot = qEnvironmentVariable("QUENFOR_SCREENSHOT_DIR");
         if (!shot.isEmpty())
             QVERIFY(window.grab().save(shot + u"/frmPurge.png"_s));
-        QVERIFY(window.findChild<QPushButton*>(u"Command2"_s)->width() >=
-                window.findChild<QPushButton*>(u"Command2"_s)->sizeHint().width());
+
+        QList<QWidget*> controls;
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            if (widget->isVisible() && (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                                        qobject_cast<QAbstractItemView*>(widget) || qobject_cast<QComboBox*>(widget)))
+                controls.append(widget);
+        }
+        QVERIFY(controls.size() >= 20);
+        const auto area = [&window](const QWidget* widget) {
+            return QRect(widget->mapTo(&window, QPoint(0, 0)), widget->size());
+        };
+        const int line = window.fontMetrics().lineSpacing();
+        for (const QWidget* control : std::as_const(controls)) {
+            const QString name = control->objectName();
+            QVERIFY2(window.rect().contains(area(control)), qPrintable(name));
+            if (qobject_cast<const QAbstractButton*>(control)) {
+                QVERIFY2(control->width() >= control->sizeHint().width(), qPrintable(name));
+                QVERIFY2(control->height() >= control->sizeHint().height(), qPrintable(name));
+            }
+            if (qobject_cast<const QAbstractItemView*>(control))
+                QVERIFY2(control->height() >= 3 * line, qPrintable(name));
+            for (const QWidget* other : std::as_const(controls)) {
+                if (other == control || control->isAncestorOf(other) || other->isAncestorOf(control))
+                    continue;
+                QVERIFY2(!area(control).intersects(area(other)), qPrintable(name + u" / "_s + other->objectName()));
+            }
+        }
     }
 };
 
