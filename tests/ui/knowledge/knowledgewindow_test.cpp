@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
@@ -95,7 +96,8 @@ private slots:
         QVERIFY(panelText());
         QCOMPARE(
             panelText()->toPlainText(),
-            u"*** Erklärung zur Option: ***\ndisplay  shade | wireframe\n  Darstellung der Modelle.\n\n\n\n\n ..."_s);
+            u"*** Erklärung zur Option: ***\ndisplay  shade | wireframe\n  Darstellung der Modelle.\n\n\n\n\n ...\n"
+            "Vorgabe: shade\nErlaubte Werte: wireframe, hiddenvis, hiddeninvis, shade, shadewithreflect, shadewithedges"_s);
         clickLine(2);
         QVERIFY(panelText()->toPlainText().startsWith(u"Diese Zeile ist eine Kommentarzeile."_s));
     }
@@ -164,6 +166,27 @@ private slots:
         box->setCurrentIndex(0);
         emit box->activated(0);
         QCOMPARE(picker()->count(), 2);
+    }
+
+    void pickerOffersTheAllowedValues() {
+        const auto menuAt = [this](int row) {
+            emit picker()->customContextMenuRequested(picker()->visualItemRect(picker()->item(row)).center());
+            return m_window->findChild<QMenu*>(u"menu_werte"_s);
+        };
+        QVERIFY(!menuAt(1)); // trail_dir takes any folder
+        QMenu* menu = menuAt(0);
+        QVERIFY(menu);
+        QStringList offered;
+        for (QAction* action : menu->actions()) {
+            if (!action->isSeparator())
+                offered.append(action->text());
+        }
+        QCOMPARE(offered,
+                 QStringList({u"display wireframe"_s, u"display hiddenvis"_s, u"display hiddeninvis"_s,
+                              u"display shade"_s, u"display shadewithreflect"_s, u"display shadewithedges"_s}));
+        menu->actions().at(1)->trigger(); // after the section title: the first value
+        QCOMPARE(m_window->findChild<QLineEdit*>(u"Text1"_s)->text(), u"display wireframe"_s);
+        menu->close();
     }
 
     void takeOverAppendsTheSelectionInListOrder() {
