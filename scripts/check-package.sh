@@ -107,7 +107,7 @@ if [[ -x "$cli" ]]; then
     # The installed program must read the files of its own package: an option that only the
     # unpacked knowledge base knows proves it (a build's source tree would not have it).
     kb="$scratch/root/usr/share/quenfor/config_opts.txt"
-    { printf 'zz_paketprobe  yes | *no\r\n  Nur im ausgepackten Paket vorhanden.\r\n\r\n'; cat "$kb"; } >"$scratch/kb"
+    { printf 'zz_paketprobe  yes | *no\r\n  Nur im ausgepackten Paket vorhanden.\r\n\r\n\r\n\r\n\r\n\r\n'; cat "$kb"; } >"$scratch/kb"
     cp "$scratch/kb" "$kb"
     explained="$("$cli" explain "zz_paketprobe yes" 2>&1)" || fail "quenfor-cli explain endete mit Fehler: $explained"
     [[ "$explained" == *"Nur im ausgepackten Paket vorhanden."* ]] ||

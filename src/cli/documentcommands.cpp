@@ -34,6 +34,11 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
     }
 
     const QString& cmd = args.command;
+    // The command is the menu entry and refuses with its text, before the file is even read.
+    if (cmd == u"categories" && categorySortRefuses(file)) {
+        io.message(QString::fromUtf16(kCategorySortRefusedMenu));
+        return kFailed;
+    }
     // The repair needs the raw text as it stands in the file, line ends included.
     QByteArray raw;
     ReadResult read;

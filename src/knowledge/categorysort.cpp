@@ -1,6 +1,7 @@
 #include "knowledge/categorysort.h"
 
 #include "document/cleanuptools.h"
+#include "document/filefamily.h"
 #include "document/linekind.h"
 #include "knowledge/categories.h"
 
@@ -28,7 +29,8 @@ QString categoryHeader(int index) {
 }
 
 bool categorySortRefuses(const QString& fileName) {
-    return fileName.endsWith(u"search.pro") || fileName.endsWith(u"SEARCH.PRO");
+    const FamilyKind kind = fileFamilyOf(fileName).kind;
+    return kind == FamilyKind::SearchPro || kind == FamilyKind::Dtl || kind == FamilyKind::Pcf;
 }
 
 QStringList sortByCategory(const QStringList& lines, const CategoryTable& table) {

@@ -18,7 +18,8 @@ QStringList sortByCategory(const QStringList& lines, const CategoryTable& table)
 // The header of category `index` (1..31).
 QString categoryHeader(int index);
 
-// True for files the sort refuses (search path files).
+// True for files the sort refuses: search path files ("search.pro", "SEARCH.PRO" at the end of the
+// name), and drawing setup and plotter files, for which the window offers no sort at all.
 bool categorySortRefuses(const QString& fileName);
 
 inline constexpr char16_t kCategorySortLastHeader[] = u"! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------";

@@ -1,6 +1,7 @@
 #include "knowledge/explanation.h"
 
 #include "knowledge/knowledgebase.h"
+#include "knowledge/optionfacts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,7 +50,8 @@ Explanation explainEntryLine(const QString& entryLine, const QString& knowledgeB
         result.text = fixedExplanation(result.kind);
         return result;
     }
-    const KnowledgeLookup lookup = lookupKnowledgeBase(knowledgeBasePath, optionNameOf(entryLine), choice);
+    const QString name = optionNameOf(entryLine);
+    const KnowledgeLookup lookup = lookupKnowledgeBase(knowledgeBasePath, name, choice);
     if (!lookup.fileFound) {
         result.knowledgeBaseMissing = true;
         return result;
@@ -60,6 +62,11 @@ Explanation explainEntryLine(const QString& entryLine, const QString& knowledgeB
         for (const QString& line : block)
             result.text += u'\n' + line;
         result.text += u"\n ..."_s;
+    }
+    // Below the explanation, or alone for options nobody has described yet.
+    if (const OptionFact* fact = optionFactsApplyTo(knowledgeBasePath) ? OptionFacts::builtIn().find(name) : nullptr) {
+        for (const QString& line : optionFactLines(*fact))
+            result.text += u'\n' + line;
     }
     return result;
 }

@@ -31,7 +31,7 @@ struct ProposalOutcome {
 
 // Appends the proposal to the document. An empty document gets it without a question; otherwise
 // `ask` gets kProposalQuestion and only Yes appends. Options already present are not looked for:
-// duplicates are left to the clean-up tools. The path options window opens afterwards either way.
+// duplicates are left to the clean-up tools. The path options window opens only when it appended.
 ProposalOutcome runProposal(ConfigDocument& doc, const AskCallback& ask);
 
 // Always asks kGhostQuestion (an empty document too); Yes appends the three ghost lines.

@@ -141,6 +141,26 @@ TEST_F(CliTest, ExplainAndCategories) {
     EXPECT_TRUE(sorted.out.endsWith("! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------\r\nmapkey a b\r\n"));
 }
 
+TEST_F(CliTest, CategoriesRefusesSearchPathsDrawingSetupsAndPlotterFiles) {
+    const QByteArray lines = "grid_snap yes\r\n";
+    for (const QString& name :
+         {u"search.pro"_s, u"SEARCH.PRO"_s, u"my_search.pro"_s, u"din.dtl"_s, u"DIN.DTL"_s, u"a4.pcf"_s, u"A4.PCF"_s}) {
+        const QString file = write(name, lines);
+        const CliRun r = run({u"categories"_s, u"-i"_s, file});
+        EXPECT_EQ(r.status, 1) << name.toStdString();
+        EXPECT_EQ(r.err, u"Diese Funktion ist nur für config.pro und config.sup Dateien nutzbar !\n"_s)
+            << name.toStdString();
+        EXPECT_TRUE(r.out.isEmpty());
+        EXPECT_EQ(read(file), lines) << name.toStdString();
+    }
+    // Every other name is sorted: config files, colour files, and names of no family at all.
+    for (const QString& name : {u"config.sup"_s, u"farben.scl"_s, u"Config.Pro"_s, u"notizen.txt"_s}) {
+        const CliRun r = run({u"categories"_s, write(name, lines)});
+        EXPECT_EQ(r.status, 0) << name.toStdString() << r.err.toStdString();
+        EXPECT_TRUE(r.out.contains("! Skizzierer -----------------------\r\ngrid_snap yes\r\n")) << name.toStdString();
+    }
+}
+
 TEST_F(CliTest, ForcedCodepageReadsUtf8AsBytes) {
     const QByteArray file = "\xEF\xBB\xBFopt \xC3\xBC\r\n";
     const QString name = write(u"f.pro"_s, file);

@@ -64,8 +64,6 @@ TEST(CategorySort, SectionsAndTheLastOne) {
                            u" color 2"_s, u"zzz"_s}));
     // An empty document: 31 bare headers and the last header.
     EXPECT_EQ(sortByCategory({}, table).size(), 32);
-    EXPECT_TRUE(categorySortRefuses(u"C:\\cad\\SEARCH.PRO"_s));
-    EXPECT_FALSE(categorySortRefuses(u"din.dtl"_s));
 }
 
 TEST(CategoryTable, BuiltInListsHaveTheirHeadersAndBounds) {

@@ -38,7 +38,9 @@ TEST(Explanation, OptionLinesShowTheirBlocksUnderTheHeading) {
     f.write("display  shade\r\n  a\r\n  b\r\n  c\r\n  d\r\n  e\r\n");
     f.close();
     const Explanation e = explainEntryLine(u"display   wireframe"_s, path);
-    EXPECT_EQ(e.text, u"*** Erklärung zur Option: ***\ndisplay  shade\n  a\n  b\n  c\n  d\n  e\n ..."_s);
+    // The config knowledge base adds what is known of the option below its blocks.
+    EXPECT_EQ(e.text, u"*** Erklärung zur Option: ***\ndisplay  shade\n  a\n  b\n  c\n  d\n  e\n ...\nVorgabe: shade\n"
+                      "Erlaubte Werte: wireframe, hiddenvis, hiddeninvis, shade, shadewithreflect, shadewithedges"_s);
     EXPECT_EQ(explainEntryLine(u"nothing"_s, path).text, u"*** Erklärung zur Option: ***"_s);
     EXPECT_TRUE(explainEntryLine(u"display"_s, dir.filePath(u"fehlt.txt"_s)).knowledgeBaseMissing);
     // Fixed texts need no file at all.

@@ -65,9 +65,13 @@ void ExplanationPanel::registerHints(StatusHints& hints) {
 }
 
 void ExplanationPanel::showExplanation(const QString& text) {
-    m_text->setPlainText(text);
+    setExplanation(text);
     show();
     raise();
+}
+
+void ExplanationPanel::setExplanation(const QString& text) {
+    m_text->setPlainText(text);
 }
 
 QString ExplanationPanel::text() const {

@@ -20,6 +20,8 @@ public:
     explicit ExplanationPanel(QWidget* parent = nullptr);
 
     void showExplanation(const QString& text);
+    // Replaces the text without opening the window; an open one shows it at once.
+    void setExplanation(const QString& text);
     QString text() const;
     bool isFeeding() const;
     // After the main window stored the explanation: back to the explaining bear.

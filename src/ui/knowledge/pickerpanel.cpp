@@ -5,6 +5,7 @@
 #include "document/filefamily.h"
 #include "knowledge/categories.h"
 #include "knowledge/categorysort.h"
+#include "knowledge/optionfacts.h"
 #include "knowledge/picker.h"
 #include "ui/widgets/bearpicture.h"
 #include "ui/widgets/statushints.h"
@@ -17,6 +18,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QToolButton>
@@ -130,6 +132,12 @@ PickerPanel::PickerPanel(QWidget* parent)
             emit takeOverClicked(picker->objectName());
     });
     connect(m_categorySort, &QToolButton::clicked, this, &PickerPanel::sortByCategoryClicked);
+    m_cfg->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_cfg, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        const QListWidgetItem* item = m_cfg->itemAt(at);
+        if (QMenu* menu = item ? valueMenu(item->text()) : nullptr)
+            menu->popup(m_cfg->viewport()->mapToGlobal(at));
+    });
     connect(m_categories, &QComboBox::activated, this, [this](int index) {
         const QString message = filterByCategory(index);
         if (!message.isEmpty())
@@ -176,6 +184,19 @@ QList<int> PickerPanel::selectedRows(const QString& objectName) const {
             rows.append(index.row());
     }
     return rows;
+}
+
+QMenu* PickerPanel::valueMenu(const QString& entry) {
+    const QStringList lines = allowedValueLines(OptionFacts::builtIn(), entry);
+    if (lines.isEmpty())
+        return nullptr;
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"menu_werte"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addSection(u"Erlaubte Werte"_s);
+    for (const QString& line : lines)
+        connect(menu->addAction(line), &QAction::triggered, this, [this, line] { emit entryClicked(line); });
+    return menu;
 }
 
 QString PickerPanel::knowledgeBasePath() const {

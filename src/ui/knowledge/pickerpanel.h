@@ -8,6 +8,7 @@ class QFrame;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
+class QMenu;
 class QPushButton;
 class QToolButton;
 
@@ -43,6 +44,10 @@ public:
     QString knowledgeBasePath() const; // lbl_configopts
     QCheckBox* explainCheck() const { return m_explain; }
     QPushButton* searchProButton() const { return m_searchProButton; }
+
+    // The menu of the config picker's right mouse button: the entry's option with each of its
+    // allowed values; choosing one acts as a click on an entry of that text. Null when none known.
+    QMenu* valueMenu(const QString& entry);
 
     // Shows an option's folder below the picker (frame_dir); an empty folder hides it.
     void showFolder(const QString& folder);

@@ -1,7 +1,7 @@
 #include "ui/knowledge/proposalactions.h"
 
-#include "ui/widgets/dialogs.h"
 #include "ui/knowledge/formopt.h"
+#include "ui/widgets/dialogs.h"
 
 #include "knowledge/proposal.h"
 
@@ -18,7 +18,8 @@ AskCallback askWith(QWidget* parent) {
 FormOpt* proposeConfiguration(QWidget* parent, ConfigDocument* document, QPointer<FormOpt>& window) {
     if (!document)
         return nullptr;
-    runProposal(*document, askWith(parent));
+    if (!runProposal(*document, askWith(parent)).appended)
+        return nullptr; // "No": the user wants neither the lines nor the window
     if (!window) {
         window = new FormOpt(document, parent);
         window->setAttribute(Qt::WA_DeleteOnClose);

@@ -10,11 +10,11 @@
 #include "knowledge/knowledgebase.h"
 #include "knowledge/picker.h"
 #include "settings/mainsettings.h"
-#include "ui/widgets/dialogs.h"
-#include "ui/main/entrylinepanel.h"
 #include "ui/knowledge/explanationpanel.h"
 #include "ui/knowledge/pickerpanel.h"
+#include "ui/main/entrylinepanel.h"
 #include "ui/main/searchdialog.h"
+#include "ui/widgets/dialogs.h"
 #include "ui/widgets/statushints.h"
 
 #include <QAction>
@@ -61,8 +61,15 @@ void MainWindow::explainEntryLine() {
     const QString entry = m_entry->text();
     const Explanation explanation =
         quenfor::explainEntryLine(entry, m_picker->knowledgeBasePath(), {settingValue(Setting::Codepage), false});
+    if (explanation.kind != Explanation::Kind::Option) {
+        // Blank lines, comments, mapkeys and favourites have a fixed text: it goes into the panel,
+        // but only an option line opens it.
+        explanationPanel()->setExplanation(explanation.text);
+        m_picker->showFolder(QString());
+        return;
+    }
     if (explanation.knowledgeBaseMissing) {
-        Dialogs::information(this, QString::fromUtf16(kKnowledgeBaseMissing));
+        Dialogs::critical(this, QString::fromUtf16(kKnowledgeBaseMissing));
         m_picker->explainCheck()->setChecked(false);
         return;
     }
@@ -71,7 +78,7 @@ void MainWindow::explainEntryLine() {
         return;
     }
     explanationPanel()->showExplanation(explanation.text);
-    m_picker->showFolder(explanation.kind == Explanation::Kind::Option ? optionValueFolder(entry) : QString());
+    m_picker->showFolder(optionValueFolder(entry));
 }
 
 ExplanationPanel* MainWindow::explanationPanel() {

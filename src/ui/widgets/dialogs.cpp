@@ -56,6 +56,13 @@ void Dialogs::information(QWidget* parent, const QString& text) {
     });
 }
 
+void Dialogs::critical(QWidget* parent, const QString& text) {
+    ask({Kind::Critical, text}, [&] {
+        QMessageBox::critical(parent, title(), text);
+        return Reply{};
+    });
+}
+
 QString Dialogs::openFile(QWidget* parent, const QString& caption, const QString& folder, const QString& filter) {
     return ask({Kind::OpenFile, caption},
                [&] {

@@ -13,7 +13,7 @@ namespace quenfor {
 // answer them without a modal loop.
 class Dialogs {
 public:
-    enum class Kind { Question, Warning, Information, OpenFile, SaveFile, ChooseFolder };
+    enum class Kind { Question, Warning, Information, Critical, OpenFile, SaveFile, ChooseFolder };
     enum class Answer { Yes, No, Ok, Cancel };
 
     // Yes/No question.
@@ -22,6 +22,8 @@ public:
     static Answer warning(QWidget* parent, const QString& text);
     // A message with only OK.
     static void information(QWidget* parent, const QString& text);
+    // An error that stops the action, with only OK.
+    static void critical(QWidget* parent, const QString& text);
 
     // File dialogs; an empty string when cancelled.
     static QString openFile(QWidget* parent, const QString& title, const QString& folder, const QString& filter = {});

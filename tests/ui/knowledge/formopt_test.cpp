@@ -6,9 +6,9 @@
 #include "document/configdocument.h"
 #include "knowledge/pathoptions.h"
 #include "knowledge/proposal.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/knowledge/formopt.h"
 #include "ui/knowledge/proposalactions.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -215,7 +215,7 @@ private slots:
         QVERIFY(!window.findChild<QAbstractButton*>(u"browse_Textcompname"_s)); // a name is not browsed for
     }
 
-    void proposalOpensTheWindow_data() {
+    void proposalOpensTheWindowUnlessRefused_data() {
         QTest::addColumn<QStringList>("before");
         QTest::addColumn<bool>("yes");
         QTest::addColumn<bool>("asked");
@@ -225,7 +225,7 @@ private slots:
         QTest::newRow("lines, no") << QStringList{u"a 1"_s} << false << true << false;
     }
 
-    void proposalOpensTheWindow() {
+    void proposalOpensTheWindowUnlessRefused() {
         QFETCH(QStringList, before);
         QFETCH(bool, yes);
         QFETCH(bool, asked);
@@ -238,10 +238,16 @@ private slots:
         FormOpt* shown = proposeConfiguration(&main, &doc, window);
         QCOMPARE(shownTexts(), asked ? QStringList{QString::fromUtf16(kProposalQuestion)} : QStringList());
         QCOMPARE(doc.lines(), appended ? before + proposalLines() : before);
+        if (!appended) { // "No" leaves the document and opens no window
+            QVERIFY(!shown && !window);
+            QVERIFY(main.findChildren<FormOpt*>().isEmpty());
+            return;
+        }
         QVERIFY(shown && shown == window);
         QVERIFY(shown->isVisible());
 
         // A second proposal brings the same window back instead of opening another one.
+        m_answer = Dialogs::Answer::Yes;
         QCOMPARE(proposeConfiguration(&main, &doc, window), shown);
         QCOMPARE(main.findChildren<FormOpt*>().size(), 1);
         window->close();

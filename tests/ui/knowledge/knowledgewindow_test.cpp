@@ -1,8 +1,8 @@
 // The option picker, the Erklär-Bär and the sort by category, driven through the main window.
 #include "document/configdocument.h"
 #include "panelsandbox.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/main/mainwindow.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
@@ -39,6 +40,7 @@ class KnowledgeWindowTest : public QObject {
     QTemporaryDir m_work;
     std::unique_ptr<MainWindow> m_window;
     QStringList m_shown;
+    QList<Dialogs::Kind> m_kinds;
 
     ConfigDocument& doc() { return *m_window->document(); }
     QListWidget* picker() { return m_window->findChild<QListWidget*>(u"List2cfg"_s); }
@@ -64,8 +66,10 @@ private slots:
     void init() {
         writeFile(m_work.filePath(u"config.pro"_s), "zzz unbekannt\r\ndisplay wireframe\r\n! Kommentar\r\n");
         m_shown.clear();
+        m_kinds.clear();
         Dialogs::setHandler([this](const Dialogs::Request& r) {
             m_shown.append(r.text);
+            m_kinds.append(r.kind);
             return Dialogs::Reply{r.kind == Dialogs::Kind::Question ? Dialogs::Answer::Yes : Dialogs::Answer::Ok, {}};
         });
         m_window = std::make_unique<MainWindow>();
@@ -92,9 +96,48 @@ private slots:
         QVERIFY(panelText());
         QCOMPARE(
             panelText()->toPlainText(),
-            u"*** Erklärung zur Option: ***\ndisplay  shade | wireframe\n  Darstellung der Modelle.\n\n\n\n\n ..."_s);
+            u"*** Erklärung zur Option: ***\ndisplay  shade | wireframe\n  Darstellung der Modelle.\n\n\n\n\n ...\n"
+            "Vorgabe: shade\nErlaubte Werte: wireframe, hiddenvis, hiddeninvis, shade, shadewithreflect, shadewithedges"_s);
         clickLine(2);
         QVERIFY(panelText()->toPlainText().startsWith(u"Diese Zeile ist eine Kommentarzeile."_s));
+    }
+
+    void fixedTextsFillThePanelWithoutOpeningIt() {
+        m_window->findChild<QCheckBox*>(u"chk_erklaerbaer"_s)->setChecked(true);
+        doc().replaceAll({u"! Kommentar"_s, u"mapkey(continued) ~ Command;"_s, u""_s, u"display shade"_s});
+        const auto panel = [this] { return m_window->findChild<QWidget*>(u"frmErklaer"_s); };
+        const struct {
+            int row;
+            QString text;
+        } fixed[] = {{0, u"Diese Zeile ist eine Kommentarzeile."_s},
+                     {1, u"Diese Zeile ist ein Teil eines Mapkeys."_s},
+                     {2, u"Leerzeile."_s}};
+        for (const auto& f : fixed) {
+            clickLine(f.row);
+            QVERIFY(panelText());
+            QVERIFY2(panelText()->toPlainText().startsWith(f.text), qPrintable(f.text));
+            QVERIFY(!panel()->isVisible());
+        }
+        clickLine(3); // only an option line opens it
+        QVERIFY(panel()->isVisible());
+        clickLine(0); // once open, it shows the fixed texts too
+        QVERIFY(panel()->isVisible());
+        QVERIFY(panelText()->toPlainText().startsWith(u"Diese Zeile ist eine Kommentarzeile."_s));
+        QVERIFY(m_shown.isEmpty());
+    }
+
+    void missingKnowledgeBaseIsCriticalAndSwitchesTheBearOff() {
+        const QString kb = m_data.filePath(u"config_opts.txt"_s);
+        QVERIFY(QFile::rename(kb, kb + u".weg"_s));
+        auto* check = m_window->findChild<QCheckBox*>(u"chk_erklaerbaer"_s);
+        check->setChecked(true);
+        clickLine(2); // a comment needs no knowledge base
+        QVERIFY(m_shown.isEmpty());
+        clickLine(1);
+        QVERIFY(QFile::rename(kb + u".weg"_s, kb));
+        QCOMPARE(m_kinds, QList<Dialogs::Kind>{Dialogs::Kind::Critical});
+        QVERIFY(m_shown.first().startsWith(u"Die Konfigurations-Datei nicht gefunden !"_s));
+        QVERIFY(!check->isChecked());
     }
 
     void feedingAddsARecordTheNextLookupFinds() {
@@ -123,6 +166,27 @@ private slots:
         box->setCurrentIndex(0);
         emit box->activated(0);
         QCOMPARE(picker()->count(), 2);
+    }
+
+    void pickerOffersTheAllowedValues() {
+        const auto menuAt = [this](int row) {
+            emit picker()->customContextMenuRequested(picker()->visualItemRect(picker()->item(row)).center());
+            return m_window->findChild<QMenu*>(u"menu_werte"_s);
+        };
+        QVERIFY(!menuAt(1)); // trail_dir takes any folder
+        QMenu* menu = menuAt(0);
+        QVERIFY(menu);
+        QStringList offered;
+        for (QAction* action : menu->actions()) {
+            if (!action->isSeparator())
+                offered.append(action->text());
+        }
+        QCOMPARE(offered,
+                 QStringList({u"display wireframe"_s, u"display hiddenvis"_s, u"display hiddeninvis"_s,
+                              u"display shade"_s, u"display shadewithreflect"_s, u"display shadewithedges"_s}));
+        menu->actions().at(1)->trigger(); // after the section title: the first value
+        QCOMPARE(m_window->findChild<QLineEdit*>(u"Text1"_s)->text(), u"display wireframe"_s);
+        menu->close();
     }
 
     void takeOverAppendsTheSelectionInListOrder() {
