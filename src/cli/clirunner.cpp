@@ -92,8 +92,8 @@ int finishOutput(QFileDevice& out, const CliStreams& io, int status) {
     const int err = errno;
     if (flushed && out.error() == QFileDevice::NoError)
         return status;
-    io.message(u"Die Ausgabe konnte nicht vollständig geschrieben werden: %1"_s.arg(
-        err != 0 ? writeErrorReason(err) : out.errorString()));
+    io.message(u"Die Ausgabe konnte nicht vollständig geschrieben werden: %1"_s.arg(err != 0 ? writeErrorReason(err)
+                                                                                             : out.errorString()));
     return kFailed;
 }
 

@@ -50,7 +50,8 @@ int main(int argc, char* argv[]) {
         status = quenfor::cli::runCli(QCoreApplication::arguments().mid(1), io);
     } catch (const std::bad_alloc&) {
         // Nothing was replaced: a save writes into a temporary file that is removed on the way out.
-        io.message(QStringLiteral("Der Arbeitsspeicher reicht für diese Datei nicht aus; es wurde nichts geschrieben."));
+        io.message(
+            QStringLiteral("Der Arbeitsspeicher reicht für diese Datei nicht aus; es wurde nichts geschrieben."));
         return quenfor::cli::kFailed;
     }
     return quenfor::cli::finishOutput(out, io, status);

@@ -10,9 +10,9 @@ namespace quenfor {
 bool installGermanQtTranslations(QCoreApplication& app) {
     auto* translator = new QTranslator(&app);
     const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    if (!translator->load(QLocale(QLocale::German, QLocale::Germany), QStringLiteral("qtbase"),
-                          QStringLiteral("_"), folder)
-        || !QCoreApplication::installTranslator(translator)) {
+    if (!translator->load(QLocale(QLocale::German, QLocale::Germany), QStringLiteral("qtbase"), QStringLiteral("_"),
+                          folder) ||
+        !QCoreApplication::installTranslator(translator)) {
         delete translator;
         return false;
     }

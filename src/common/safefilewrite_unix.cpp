@@ -212,8 +212,8 @@ struct SafeFileWrite::State {
             if (S_ISLNK(st.st_mode)) {
                 const QByteArray folder = parentOf(path);
                 struct stat dir {};
-                if (::stat(folder.constData(), &dir) == 0 && (dir.st_mode & S_ISVTX) && (dir.st_mode & S_IWOTH)
-                    && st.st_uid != ::geteuid() && st.st_uid != dir.st_uid)
+                if (::stat(folder.constData(), &dir) == 0 && (dir.st_mode & S_ISVTX) && (dir.st_mode & S_IWOTH) &&
+                    st.st_uid != ::geteuid() && st.st_uid != dir.st_uid)
                     return fail(u"Sie ist eine symbolische Verknüpfung eines anderen Benutzers in einem Verzeichnis, "
                                 u"in das alle schreiben dürfen; ihr wird aus Sicherheitsgründen nicht gefolgt."_s);
                 QByteArray link(4096, Qt::Uninitialized);
@@ -303,8 +303,8 @@ struct SafeFileWrite::State {
         if (written)
             return true;
         if (!restored)
-            return fail(reasonForErrno(err)
-                        + u" Die bisherige Fassung liegt unverändert in %1."_s.arg(QFile::decodeName(backupPath)));
+            return fail(reasonForErrno(err) +
+                        u" Die bisherige Fassung liegt unverändert in %1."_s.arg(QFile::decodeName(backupPath)));
         return failErrno(err);
     }
 };

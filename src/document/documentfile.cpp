@@ -369,8 +369,8 @@ WriteResult writeDocument(QIODevice& device, const QStringList& lines, const Tex
         result.error = error;
         return result;
     }
-    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark
-        && device.write(kUtf8Mark, kMarkSize) != kMarkSize) {
+    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark &&
+        device.write(kUtf8Mark, kMarkSize) != kMarkSize) {
         result.error = u"Schreibfehler: %1"_s.arg(device.errorString());
         return result;
     }

@@ -13,10 +13,10 @@ class ConfigDocument;
 // Each returns what the window shows: the status text on success, a German message on failure.
 struct StorageResult {
     bool ok = false;
-    QString status;  // status line on success
-    QString error;   // message box text on failure
-    QString warning; // success with a caveat (characters that became "?")
-    QString hint;    // opening: a note to show after the status (lines that end in LF alone)
+    QString status;             // status line on success
+    QString error;              // message box text on failure
+    QString warning;            // success with a caveat (characters that became "?")
+    QString hint;               // opening: a note to show after the status (lines that end in LF alone)
     bool changedOnDisk = false; // saving refused: another program changed the file since it was read
 };
 
@@ -43,8 +43,7 @@ QString saveTargetFor(const QString& fileName, const QString& programDir);
 // Replaces the document by the file's lines; the document keeps its lines when reading fails.
 StorageResult openDocument(ConfigDocument& doc, const QString& path, const EncodingChoice& choice);
 
-StorageResult saveDocument(ConfigDocument& doc, const QString& programDir,
-                           OthersChanges others = OthersChanges::Keep);
+StorageResult saveDocument(ConfigDocument& doc, const QString& programDir, OthersChanges others = OthersChanges::Keep);
 // Saves to the chooser's folder and name; the document then belongs to the new file.
 StorageResult saveDocumentAs(ConfigDocument& doc, const QString& folder, const QString& name);
 // Writes the same bytes to another file; the document stays with its own file.

@@ -153,8 +153,8 @@ TEST(PurgeAnalysis, agreesWithTheLiteralAllPairsComparison) {
                 best = {version, name};
         }
         for (auto it = highest.cbegin(); it != highest.cend(); ++it)
-            ASSERT_FALSE(purge.contains(prefix + it->second)) << "the newest " << it->second.toStdString() << " in "
-                                                               << folder.toStdString();
+            ASSERT_FALSE(purge.contains(prefix + it->second))
+                << "the newest " << it->second.toStdString() << " in " << folder.toStdString();
     }
 }
 

@@ -160,9 +160,9 @@ TEST(PurgeTree, latin1NamesAreDeletedByTheirOwnBytes) {
     const QByteArray folder = QFile::encodeName(dir.path());
     const QByteArray sub = folder + "/Geh\xE4use";
     ASSERT_EQ(::mkdir(sub.constData(), 0755), 0);
-    const QList<QByteArray> names = {"Geh\xE4use.prt.1", "Geh\xE4use.prt.2", "inv\xEF\xBF\xBD.prt.1",
-                                     "inv\xE4.prt.1", "inv\xE4.prt.2", "Geh\xE4use/teil\xFC.asm.3",
-                                     "Geh\xE4use/teil\xFC.asm.4", "notiz\xE4.bak"};
+    const QList<QByteArray> names = {
+        "Geh\xE4use.prt.1", "Geh\xE4use.prt.2",          "inv\xEF\xBF\xBD.prt.1",     "inv\xE4.prt.1",
+        "inv\xE4.prt.2",    "Geh\xE4use/teil\xFC.asm.3", "Geh\xE4use/teil\xFC.asm.4", "notiz\xE4.bak"};
     for (const QByteArray& name : names) {
         const int fd = ::open((folder + '/' + name).constData(), O_WRONLY | O_CREAT | O_EXCL, 0644);
         ASSERT_GE(fd, 0) << name.toHex().toStdString();

@@ -64,7 +64,8 @@ TEST_F(OutputTest, AFifoIsNoFileToWriteInto) {
     const QString file = write(u"config.pro"_s, "Display SHADE\r\n");
     const QString fifo = path(u"pipe.pro"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
-    for (const QStringList& args : {QStringList{u"lower"_s, u"-o"_s, fifo, file}, QStringList{u"lower"_s, u"-i"_s, fifo}}) {
+    for (const QStringList& args :
+         {QStringList{u"lower"_s, u"-o"_s, fifo, file}, QStringList{u"lower"_s, u"-i"_s, fifo}}) {
         SCOPED_TRACE(args.join(u' ').toStdString());
         const CliRun result = run(args);
         EXPECT_EQ(result.status, 1);

@@ -12,9 +12,18 @@ namespace {
 
 TEST(RawFileNames, EveryByteStringSurvivesAndStaysDistinct) {
     const QList<QByteArray> fixed = {
-        "teil.prt.1",          "Geh\xE4use.prt.1",   "Geh\xC3\xA4use.prt.1", "inv\xEF\xBF\xBD.prt.1",
-        "\xC0\x80",            "\xED\xA0\x80",       "\xF0\x9F\x98\x80.drw", "\xF4\x90\x80\x80",
-        "a\xC3",               "\xE2\x82",           "\xFF\xFE",             "\xDC\x80",
+        "teil.prt.1",
+        "Geh\xE4use.prt.1",
+        "Geh\xC3\xA4use.prt.1",
+        "inv\xEF\xBF\xBD.prt.1",
+        "\xC0\x80",
+        "\xED\xA0\x80",
+        "\xF0\x9F\x98\x80.drw",
+        "\xF4\x90\x80\x80",
+        "a\xC3",
+        "\xE2\x82",
+        "\xFF\xFE",
+        "\xDC\x80",
     };
     QRandomGenerator random(4711);
     QList<QByteArray> all = fixed;
@@ -31,7 +40,8 @@ TEST(RawFileNames, EveryByteStringSurvivesAndStaysDistinct) {
         const QString name = decodeFileName(bytes);
         ASSERT_EQ(encodeFileName(name), bytes) << bytes.toHex().toStdString();
         const auto it = seen.constFind(name);
-        ASSERT_TRUE(it == seen.constEnd() || *it == bytes) << "two names fall together: " << bytes.toHex().toStdString();
+        ASSERT_TRUE(it == seen.constEnd() || *it == bytes)
+            << "two names fall together: " << bytes.toHex().toStdString();
         seen.insert(name, bytes);
     }
 }

@@ -1,8 +1,8 @@
 // Taking favourite lines apart decides what lands in the constructor's fields and what a script
 // gets from "favorite"; a wrong cut loses part of a folder name or takes a slip for a name.
 #include "../common/qstringprinting.h"
-#include "knowledge/explanation.h"
 #include "document/documentfile.h"
+#include "knowledge/explanation.h"
 #include "knowledge/favorites.h"
 
 #include <QTemporaryDir>
@@ -110,7 +110,8 @@ namespace {
 // The shipped sample teaches users the line's shape: every favourite in it must take apart into a
 // folder path and a name, not the other way round.
 TEST(Favorites, ShippedSampleNamesTheFolderBeforeTheName) {
-    const ReadResult sample = readDocumentFile(QStringLiteral(QUENFOR_TEST_DATA_DIR "/../../data/samples/config.pro"), {});
+    const ReadResult sample =
+        readDocumentFile(QStringLiteral(QUENFOR_TEST_DATA_DIR "/../../data/samples/config.pro"), {});
     ASSERT_TRUE(sample.ok) << sample.error.toStdString();
     int favourites = 0;
     for (const QString& line : sample.lines) {

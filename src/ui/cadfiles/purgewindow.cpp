@@ -10,10 +10,10 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "ui/widgets/dialogs.h"
-#include "ui/widgets/readablenamedelegate.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/formwidgets.h"
 #include "ui/widgets/panelheader.h"
+#include "ui/widgets/readablenamedelegate.h"
 #include "ui/widgets/statushints.h"
 
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "ui/cadfiles/tastomatwindow.h"
 
+#include "ui/cadfiles/tastomatparameterdialog.h"
 #include "ui/widgets/dialogs.h"
 #include "ui/widgets/statushints.h"
-#include "ui/cadfiles/tastomatparameterdialog.h"
 
 #include "cadfiles/batchfilelist.h"
 #include "cadfiles/doitfile.h"
@@ -191,7 +191,7 @@ void TastomatWindow::buildWidgets() {
     layout->addWidget(choose, 2);
     layout->addWidget(mapkeyBox, 3);
     layout->addLayout(bottom);
-    resize(980, 760);
+    resize(960, 660);
 
     m_hints->add(m_folderTree, tr("Ordner mit den Dateien, für die Mapkeys erzeugt werden"));
     m_hints->add(m_folderEdit, tr("Pfad des Ordners; mit Enter übernehmen"));

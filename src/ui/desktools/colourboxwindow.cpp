@@ -16,6 +16,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -189,14 +192,18 @@ void ColourBoxWindow::rgbEdited(int channel) {
 }
 
 void ColourBoxWindow::showColour() {
+    // While a field holds a value that was refused, neither the swatch nor the line may show an
+    // older value as if it were the one typed: both stay empty until the fields agree again.
+    const bool refused = std::any_of(std::begin(m_refusals), std::end(m_refusals),
+                                     [](const QString& refusal) { return !refusal.isEmpty(); });
     QPalette palette = m_swatch->palette();
-    palette.setColor(QPalette::Window, colour());
+    palette.setColor(QPalette::Window, refused ? QWidget::palette().color(QPalette::Window) : colour());
     m_swatch->setPalette(palette);
     for (int i = 0; i < kColourChannels; ++i) {
         showRed(m_percentFields[i], !m_refusals[i].isEmpty());
         showRed(m_rgbFields[i], !m_refusals[i].isEmpty());
     }
-    m_line->setText(valueLine());
+    m_line->setText(refused ? QString() : valueLine());
     m_status->setText(firstRefusal());
 }
 

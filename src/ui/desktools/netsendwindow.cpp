@@ -3,8 +3,8 @@
 #include "desktools/loginname.h"
 #include "desktools/netsend.h"
 #include "desktools/netsendsettings.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/desktools/emptyondoubleclick.h"
+#include "ui/widgets/dialogs.h"
 #include "ui/widgets/formwidgets.h"
 
 #include <QCheckBox>

@@ -10,9 +10,9 @@
 #include "settings/defaultfolders.h"
 #include "settings/storeddrive.h"
 #include "ui/desktools/emptyondoubleclick.h"
-#include "ui/widgets/folderwidgets.h"
 #include "ui/desktools/picturescroller.h"
 #include "ui/desktools/qtpicturedecoder.h"
+#include "ui/widgets/folderwidgets.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -70,7 +70,7 @@ void setColours(QWidget* widget, QPalette::ColorRole backgroundRole, QPalette::C
 PictureViewerWindow::PictureViewerWindow(PictureViewerLinks links, QWidget* parent)
     : QWidget(parent, Qt::Window), m_links(std::move(links)), m_folderModel(new QFileSystemModel(this)) {
     setObjectName(u"vistrel"_s);
-    setWindowTitle(u"vistrel"_s);
+    setWindowTitle(tr("quenfor Bildbetrachter"));
     buildWidgets();
     restoreSettings();
     resizeToDesignedSize();
@@ -274,6 +274,8 @@ void PictureViewerWindow::setStatus(const QString& text) {
     line.replace(u'\n', u' ');
     m_console->setText(line);
     m_console->setCursorPosition(0);
+    // A line longer than the window (the command overview) can still be read whole.
+    m_console->setToolTip(line);
 }
 
 void PictureViewerWindow::setScheme(const QString& word) {

@@ -6,11 +6,11 @@
 #include "desktools/texthandback.h"
 #include "desktools/translationrequest.h"
 #include "settings/colourschemes.h"
-#include "ui/widgets/bearpicture.h"
-#include "ui/main/colourpanel.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/desktools/linetranslator.h"
 #include "ui/desktools/skribbfilebox.h"
+#include "ui/main/colourpanel.h"
+#include "ui/widgets/bearpicture.h"
+#include "ui/widgets/dialogs.h"
 #include "ui/widgets/statushints.h"
 
 #include <QCheckBox>

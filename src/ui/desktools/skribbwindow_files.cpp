@@ -4,9 +4,9 @@
 #include "desktools/editorfile.h"
 #include "document/linesplit.h"
 #include "settings/mainsettings.h"
-#include "ui/widgets/dialogs.h"
-#include "ui/main/documentprinter.h"
 #include "ui/desktools/skribbfilebox.h"
+#include "ui/main/documentprinter.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QClipboard>
 #include <QDir>

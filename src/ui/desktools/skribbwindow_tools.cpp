@@ -9,11 +9,11 @@
 #include "desktools/texthandback.h"
 #include "desktools/translationrequest.h"
 #include "settings/mainsettings.h"
+#include "ui/desktools/linetranslator.h"
+#include "ui/desktools/skribbfilebox.h"
 #include "ui/widgets/applycolourscheme.h"
 #include "ui/widgets/dialogs.h"
-#include "ui/desktools/linetranslator.h"
 #include "ui/widgets/programexit.h"
-#include "ui/desktools/skribbfilebox.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "ui/knowledge/formopt.h"
 
-#include "ui/widgets/dialogs.h"
 #include "ui/knowledge/missingpathcolour.h"
+#include "ui/widgets/dialogs.h"
 #include "ui/widgets/panelheader.h"
 #include "ui/widgets/statushints.h"
 
@@ -61,7 +61,7 @@ FormOpt::FormOpt(ConfigDocument* document, QWidget* parent) : QWidget(parent), m
         m_entries[i]->setText(stored.value(i));
         colourEntry(i); // an empty value sends no change but is missing all the same
     }
-    resize(860, 720);
+    resize(860, 660);
 }
 
 QStringList FormOpt::values() const {

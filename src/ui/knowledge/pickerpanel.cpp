@@ -216,8 +216,12 @@ QString PickerPanel::applyFamily(const FileFamily& family, const QString& dataFo
     m_sourceLabel->clear();
 
     QListWidget* picker = pickerList(family.pickerList);
-    if (!picker)
+    if (!picker) {
+        // Nothing open yet: the column would show only a lone button.
+        m_sourceLabel->setText(tr("Keine Datei geöffnet. Eine Datei öffnen \"Datei\" → \"Öffnen\" oder ↺ "
+                                  "(die zuletzt bearbeitete Datei); dann stehen hier ihre Optionen."));
         return {};
+    }
     picker->setVisible(family.pickerVisible);
     m_knowledgeBase->setText(joinFolderAndName(dataFolder, family.knowledgeBaseFile));
     picker->clear();
@@ -229,10 +233,13 @@ QString PickerPanel::applyFamily(const FileFamily& family, const QString& dataFo
     const ReadResult read = readDocumentFile(m_pickerSource, {});
     if (!read.ok)
         return read.error;
-    m_sourceLabel->setText(QDir::toNativeSeparators(m_pickerSource));
     picker->addItems(read.lines);
     if (picker == m_cfg)
         m_categories->setCurrentIndex(0);
+    // A search.pro keeps the option list loaded unseen: neither its name nor its reading is news.
+    if (!family.pickerVisible)
+        return {};
+    m_sourceLabel->setText(QDir::toNativeSeparators(m_pickerSource));
     return family.pickerLoadedStatus();
 }
 

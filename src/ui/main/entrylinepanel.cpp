@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -21,6 +22,9 @@ QColor colorFromBgr(int bgr) {
 int twipsToPixels(int twips) {
     return twips / 15;
 }
+
+// Leaves room for the tool column and the picker on a 1366 pixel wide laptop screen.
+constexpr int kWidestEntryLine = 700;
 
 EntryLinePanel::EntryLinePanel(QWidget* parent)
     : QWidget(parent), m_entry(new QLineEdit(this)), m_warning(new QLabel(this)), m_preview(new QLabel(this)),
@@ -39,6 +43,10 @@ EntryLinePanel::EntryLinePanel(QWidget* parent)
     m_warning->hide();
     m_warning->installEventFilter(this);
     m_preview->setTextFormat(Qt::PlainText);
+    // A mapkey's preview can be hundreds of characters long: it must not widen the window beyond
+    // the screen. It is cut at the window's edge, and the whole text shows as its tooltip.
+    m_preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_preview->setMinimumWidth(0);
     m_favoriteCheck->setText(u"☆"_s);
     m_favoriteCheck->setCursor(Qt::PointingHandCursor);
     m_favoriteCheck->installEventFilter(this);
@@ -66,11 +74,14 @@ void EntryLinePanel::setText(const QString& text) {
 }
 
 void EntryLinePanel::showCheck(const EntryLineCheck& check) {
-    m_entry->setMinimumWidth(twipsToPixels(check.entryWidthTwips));
+    // The wide entry line for long text is as wide as the screen allows, never wider: the line
+    // scrolls within it.
+    m_entry->setMinimumWidth(std::min(twipsToPixels(check.entryWidthTwips), kWidestEntryLine));
     m_warning->setText(check.warning);
     m_warning->setVisible(check.tooLong);
     if (check.preview) {
         m_preview->setText(check.preview->text);
+        m_preview->setToolTip(check.preview->text);
         QPalette palette = m_preview->palette();
         palette.setColor(QPalette::WindowText, colorFromBgr(check.preview->color));
         m_preview->setPalette(palette);

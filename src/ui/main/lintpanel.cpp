@@ -4,8 +4,8 @@
 #include "document/configdocument.h"
 #include "lint/linttexts.h"
 #include "settings/mainsettings.h"
-#include "ui/widgets/backgroundjob.h"
 #include "ui/main/lintfindingmodel.h"
+#include "ui/widgets/backgroundjob.h"
 #include "ui/widgets/statushints.h"
 
 #include <QHBoxLayout>
@@ -107,6 +107,9 @@ void LintPanel::check() {
     LintOptions options;
     options.dataFolder = programDataFolder();
     options.encoding = {settingValue(Setting::Codepage), false};
+    // The button's hint promises it: a search.pro is checked for folders that do not exist. The
+    // check runs in the background and can be stopped, so slow network folders hold nothing up.
+    options.checkPaths = true;
     const QStringList lines = m_document->lines(); // shared, not copied: the worker reads its own
     const QString fileName = m_document->fileName();
     setRunning(true);

@@ -61,7 +61,8 @@ const QHash<QString, QString>& hintTable() {
         {u"img_dmapkeys"_s, QString::fromUtf16(kDuplicateMapkeysHint)},
         {u"cmd_listmapkeys"_s, QString::fromUtf16(kListMapkeysHint)},
         {u"img_zoom_all"_s, u"Das Programm auf seine Standardgröße zoomen"_s},
-        {u"img_vorschlag"_s, u"Linke Maustaste: Vorschlagsliste einfügen. Rechte Maustaste: Ghost-Optionen hinzufügen"_s},
+        {u"img_vorschlag"_s,
+         u"Linke Maustaste: Vorschlagsliste einfügen. Rechte Maustaste: Ghost-Optionen hinzufügen"_s},
         {u"img_kathi"_s, u"Sortiert die Optionen der Liste nach Themen"_s},
         {u"Text1"_s, u"Eingabezeile: Zeigt den aktuellen Text der angewählten Zeile an. Texte die in diese Zeile "
                      "eingegeben werden müssen mit >Enter< bestätigt werden um Sie in der Liste zu plazieren."_s},

@@ -1,17 +1,17 @@
 #include "ui/main/mainwindow.h"
 
 #include "document/configdocument.h"
+#include "ui/knowledge/favoritespanel.h"
+#include "ui/knowledge/pickerpanel.h"
 #include "ui/main/colourpanel.h"
 #include "ui/main/documentlistview.h"
 #include "ui/main/entrylinepanel.h"
-#include "ui/knowledge/favoritespanel.h"
 #include "ui/main/filechooserpanel.h"
 #include "ui/main/folderpanel.h"
 #include "ui/main/mainhints.h"
-#include "ui/knowledge/pickerpanel.h"
-#include "ui/widgets/statushints.h"
 #include "ui/main/tempdirpanel.h"
 #include "ui/main/toolcolumn.h"
+#include "ui/widgets/statushints.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -6,16 +6,16 @@
 #include "ui/desktools/aboutdialog.h"
 #include "ui/desktools/asciitablewindow.h"
 #include "ui/desktools/colourboxwindow.h"
-#include "ui/knowledge/explanationpanel.h"
 #include "ui/desktools/interpolationwindow.h"
 #include "ui/desktools/netsendwindow.h"
 #include "ui/desktools/pictureviewerwindow.h"
 #include "ui/desktools/screenshotwindow.h"
 #include "ui/desktools/shooterwindow.h"
 #include "ui/desktools/skribbwindow.h"
+#include "ui/desktools/worktimewindow.h"
+#include "ui/knowledge/explanationpanel.h"
 #include "ui/main/toolcolumn.h"
 #include "ui/widgets/toolwindow.h"
-#include "ui/desktools/worktimewindow.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -84,13 +84,14 @@ void MainWindow::openTextEditor() {
                 [this](const QString& text) { explanationPanel()->showExplanation(text); });
         // The editor got the document's lines to work on: taking its text back replaces them, so no
         // line ends up twice. Lines the document gained meanwhile are kept, and the text is added.
-        connect(editor, &SkribbWindow::linesHandedBack, this, [this, opened = m_document->lines()](const QStringList& lines) {
-            if (m_document->lines() == opened)
-                m_document->replaceAll(lines);
-            else
-                m_document->appendLines(lines);
-            setStatus(QString::fromUtf16(kTextTakenOver));
-        });
+        connect(editor, &SkribbWindow::linesHandedBack, this,
+                [this, opened = m_document->lines()](const QStringList& lines) {
+                    if (m_document->lines() == opened)
+                        m_document->replaceAll(lines);
+                    else
+                        m_document->appendLines(lines);
+                    setStatus(QString::fromUtf16(kTextTakenOver));
+                });
         return editor;
     });
 }

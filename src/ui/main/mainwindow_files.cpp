@@ -7,15 +7,15 @@
 #include "document/documentstorage.h"
 #include "document/filefamily.h"
 #include "settings/mainsettings.h"
+#include "ui/knowledge/pickerpanel.h"
 #include "ui/main/colourpanel.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/main/documentprinter.h"
 #include "ui/main/entrylinepanel.h"
 #include "ui/main/filechooserpanel.h"
-#include "ui/knowledge/pickerpanel.h"
-#include "ui/widgets/programexit.h"
 #include "ui/main/searchdialog.h"
 #include "ui/main/toolcolumn.h"
+#include "ui/widgets/dialogs.h"
+#include "ui/widgets/programexit.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -92,7 +92,8 @@ void MainWindow::startUp(const QStringList& arguments) {
         if (fileExists(path))
             note = openFile(path);
         else
-            note = tr("Die Datei %1 gibt es noch nicht; \"Speichern\" legt sie an.").arg(QDir::toNativeSeparators(path));
+            note =
+                tr("Die Datei %1 gibt es noch nicht; \"Speichern\" legt sie an.").arg(QDir::toNativeSeparators(path));
     } else {
         const QString folder = settingValue(Setting::Dir1);
         if (folderExists(folder))

@@ -8,15 +8,15 @@
 #include "settings/mainsettings.h"
 #include "settings/settingsreset.h"
 #include "settings/tempdircheck.h"
-#include "ui/widgets/applycolourscheme.h"
 #include "ui/main/colourpanel.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/main/documentlistview.h"
 #include "ui/main/entrylinepanel.h"
 #include "ui/main/filechooserpanel.h"
 #include "ui/main/folderpanel.h"
 #include "ui/main/tempdirpanel.h"
 #include "ui/main/toolcolumn.h"
+#include "ui/widgets/applycolourscheme.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -65,30 +65,32 @@ void MainWindow::connectPanels() {
         setStatus(tr("Nicht gespeichert: %1 bleibt, wie sie ist.").arg(QDir::toNativeSeparators(target)));
         return false;
     };
-    connect(m_chooser, &FileChooserPanel::saveAsRequested, this, [this, mayWrite](const QString& folder, const QString& name) {
-        if (!mayWrite(folder, name))
-            return;
-        const StorageResult saved = saveDocumentAs(*m_document, folder, name);
-        if (!saved.ok) {
-            Dialogs::information(this, saved.error);
-            return; // the chooser stays, so the user can pick another place
-        }
-        showFileLabel();
-        showCentre(m_list);
-        applyFamilyOf(m_document->fileName());
-        setStatus(saved.status); // last: the family's own status must not hide the result
-        if (!saved.warning.isEmpty())
-            Dialogs::information(this, saved.warning);
-    });
-    connect(m_chooser, &FileChooserPanel::saveCopyRequested, this, [this, mayWrite](const QString& folder, const QString& name) {
-        if (name.isEmpty() || !mayWrite(folder, name))
-            return;
-        const StorageResult saved = saveDocumentCopy(*m_document, folder, name);
-        if (!saved.ok)
-            Dialogs::information(this, saved.error);
-        else
-            setStatus(saved.status);
-    });
+    connect(m_chooser, &FileChooserPanel::saveAsRequested, this,
+            [this, mayWrite](const QString& folder, const QString& name) {
+                if (!mayWrite(folder, name))
+                    return;
+                const StorageResult saved = saveDocumentAs(*m_document, folder, name);
+                if (!saved.ok) {
+                    Dialogs::information(this, saved.error);
+                    return; // the chooser stays, so the user can pick another place
+                }
+                showFileLabel();
+                showCentre(m_list);
+                applyFamilyOf(m_document->fileName());
+                setStatus(saved.status); // last: the family's own status must not hide the result
+                if (!saved.warning.isEmpty())
+                    Dialogs::information(this, saved.warning);
+            });
+    connect(m_chooser, &FileChooserPanel::saveCopyRequested, this,
+            [this, mayWrite](const QString& folder, const QString& name) {
+                if (name.isEmpty() || !mayWrite(folder, name))
+                    return;
+                const StorageResult saved = saveDocumentCopy(*m_document, folder, name);
+                if (!saved.ok)
+                    Dialogs::information(this, saved.error);
+                else
+                    setStatus(saved.status);
+            });
     connect(m_chooser, &FileChooserPanel::closeRequested, this, [this] { showCentre(m_list); });
     connect(m_folders, &FolderPanel::closeRequested, this, [this] { showCentre(m_list); });
     connect(m_tempDir, &TempDirPanel::closeRequested, m_tempDir, &QWidget::hide);

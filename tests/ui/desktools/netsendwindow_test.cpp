@@ -3,8 +3,8 @@
 #include "desktools/netsend.h"
 #include "desktools/netsendsettings.h"
 #include "panelsandbox.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/desktools/netsendwindow.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -68,8 +68,9 @@ private slots:
         click(*window, u"Command1"_s);
         window->findChild<QCheckBox*>(u"Check1"_s)->setChecked(true);
         click(*window, u"Command1"_s);
-        QCOMPARE(m_commands, (QList<QStringList>{{u"net"_s, u"send"_s, u"pc12"_s, u"Hallo\r"_s},
-                                                 {u"net"_s, u"send"_s, u"pc12"_s, u"Hallo\r- "_s + loginName() + u" -"_s}}));
+        QCOMPARE(m_commands,
+                 (QList<QStringList>{{u"net"_s, u"send"_s, u"pc12"_s, u"Hallo\r"_s},
+                                     {u"net"_s, u"send"_s, u"pc12"_s, u"Hallo\r- "_s + loginName() + u" -"_s}}));
         QCOMPARE(status(*window), QString());
         QVERIFY(m_asked.isEmpty());
     }

@@ -3,8 +3,8 @@
 #include "desktools/viewersettings.h"
 #include "desktools/viewertexts.h"
 #include "panelsandbox.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/desktools/pictureviewerwindow.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -165,6 +165,9 @@ private slots:
         QCOMPARE(window->statusText(), u"1.7"_s);
         type(*window, u"?"_s);
         QVERIFY(window->statusText().startsWith(u"<Dateipfad> autor black"_s));
+        // Longer than the line: the whole overview shows when the pointer rests on it.
+        QCOMPARE(console(*window)->toolTip(), window->statusText());
+        QCOMPARE(window->windowTitle(), u"quenfor Bildbetrachter"_s);
         type(*window, u"Black"_s);
         QCOMPARE(window->statusText(), u"Black"_s);
         QCOMPARE(window->schemeWord(), u"standard"_s);

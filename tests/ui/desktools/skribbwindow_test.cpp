@@ -9,10 +9,10 @@
 #include "panelsandbox.h"
 #include "settings/mainsettings.h"
 #include "settings/settingsstore.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/desktools/linetranslator.h"
-#include "ui/main/mainwindow.h"
 #include "ui/desktools/skribbwindow.h"
+#include "ui/main/mainwindow.h"
+#include "ui/widgets/dialogs.h"
 #include "ui/widgets/statushints.h"
 
 #include <QAction>

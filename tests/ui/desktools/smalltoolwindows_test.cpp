@@ -4,11 +4,11 @@
 #include "panelsandbox.h"
 #include "settings/mainsettings.h"
 #include "ui/desktools/colourboxwindow.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/desktools/interpolationwindow.h"
-#include "ui/main/mainwindow.h"
-#include "ui/widgets/statushints.h"
 #include "ui/desktools/worktimewindow.h"
+#include "ui/main/mainwindow.h"
+#include "ui/widgets/dialogs.h"
+#include "ui/widgets/statushints.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -319,7 +319,15 @@ private slots:
         QCOMPARE(labelText(window, u"lblstatus"_s), u"Grün: RGB-Werte sind ganze Zahlen von 0 bis 255."_s);
         QVERIFY(!window.copyLine());
         QCOMPARE(m_shown, QStringList{u"Grün: RGB-Werte sind ganze Zahlen von 0 bis 255."_s});
+        // The line and the swatch never show an older value as if it were the one typed.
+        QCOMPARE(text(window, u"txt_zeile"_s), QString());
+        QVERIFY(window.findChild<QLabel*>(u"lbl_farbe"_s)->palette().color(QPalette::Window) != QColor(128, 18, 255));
+        type(window, u"txt_prozentRot"_s, u"250"_s);
+        QCOMPARE(text(window, u"txt_zeile"_s), QString());
+        type(window, u"txt_prozentRot"_s, u"50"_s);
+        QCOMPARE(text(window, u"txt_zeile"_s), QString()); // green is still refused
         type(window, u"txt_rgbGruen"_s, u"0"_s);
+        QCOMPARE(text(window, u"txt_zeile"_s), u"SYSTEM_BACKGROUND_COLOR 50.000000 0.000000 100.000000"_s);
         QVERIFY(!isRed(window, u"txt_rgbGruen"_s));
         window.setColour(QColor(255, 255, 255));
         QCOMPARE(window.valueLine(), u"SYSTEM_BACKGROUND_COLOR 100.000000 100.000000 100.000000"_s);

@@ -3,13 +3,14 @@
 #include "document/configdocument.h"
 #include "lint/linttexts.h"
 #include "panelsandbox.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/main/lintfindingmodel.h"
 #include "ui/main/lintpanel.h"
 #include "ui/main/mainwindow.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
+#include <QDir>
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
@@ -147,6 +148,19 @@ private slots:
         waitForCheck();
         QCOMPARE(findingLines(), QList<int>{2});
         QVERIFY(panel()->model().findingAt(0).message.startsWith(u"Unbekannte Zeichnungsoption"_s));
+    }
+
+    void searchProIsCheckedForMissingFolders() {
+        const QString present = m_dir.filePath(u"da"_s);
+        QVERIFY(QDir().mkpath(present));
+        const QString searchPro = m_dir.filePath(u"search.pro"_s);
+        writeFile(searchPro,
+                  (QDir::toNativeSeparators(present) + u"\r\n"_s + m_dir.filePath(u"fehlt"_s) + u"\r\n"_s).toUtf8());
+        m_window->startUp({searchPro});
+        m_window->findChild<QAbstractButton*>(u"cmd_pruefen"_s)->click();
+        waitForCheck();
+        QCOMPARE(findingLines(), QList<int>{1});
+        QVERIFY(summary() != u"Keine Befunde."_s);
     }
 
     void aLongCheckCanBeStopped() {

@@ -4,8 +4,8 @@
 #include "panelsandbox.h"
 #include "settings/mainsettings.h"
 #include "settings/settingsstore.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/main/mainwindow.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -101,6 +101,19 @@ private slots:
         MainWindow fresh;
         fresh.startUp({gone});
         QVERIFY2(fresh.status().contains(u"gibt es noch nicht"_s), qPrintable(fresh.status()));
+
+        MainWindow empty;
+        empty.startUp({});
+        QVERIFY(empty.findChild<QLabel*>(u"lbl_quenconfig"_s)->text().startsWith(u"Keine Datei geöffnet."_s));
+    }
+
+    // A search.pro shows its own tools; the option list loaded unseen behind it is no news.
+    void searchProShowsNothingOfTheOptionList() {
+        const QString searchPro = m_dir.filePath(u"search.pro"_s);
+        writeFile(searchPro, "C:\\cad\\teile\r\n");
+        m_window->startUp({searchPro});
+        QVERIFY2(!label(u"lblstatus"_s).contains(u"quenfor.pro"_s), qPrintable(label(u"lblstatus"_s)));
+        QCOMPARE(label(u"lbl_quenconfig"_s), QString());
     }
 
     void opensTheFileOfTheCommandLine() {
