@@ -1,5 +1,6 @@
 #include "document/documentfile.h"
 
+#include "common/regularfile.h"
 #include "document/linesplit.h"
 
 #include <QDir>
@@ -155,7 +156,9 @@ QString readErrorText(const QString& path, const QFile& file, int err) {
         return u"%1 ist ein Verzeichnis und keine Datei."_s.arg(name);
     if (err == EACCES || err == EPERM)
         return u"Die Datei %1 kann nicht gelesen werden: Es fehlen die Leserechte."_s.arg(name);
-    return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, file.errorString());
+    // The file may never have reached the open: then the system's own reason is the one to show.
+    const QString reason = file.error() == QFileDevice::NoError ? qt_error_string(err) : file.errorString();
+    return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, reason);
 }
 
 ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip, qsizetype expectedLines) {
@@ -213,11 +216,14 @@ bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& un
 } // namespace
 
 ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
-    QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    const FileOpen opened = openRegularFile(file, path);
+    if (opened != FileOpen::Opened) {
         const int err = errno;
         ReadResult result;
-        result.error = readErrorText(path, file, err);
+        // A pipe or device is refused before it could block the read.
+        result.error =
+            opened == FileOpen::NotRegular ? fileOpenRefusalText(opened, path) : readErrorText(path, file, err);
         return result;
     }
 
@@ -362,8 +368,8 @@ WriteResult writeDocument(QIODevice& device, const QStringList& lines, const Tex
         result.error = error;
         return result;
     }
-    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark
-        && device.write(kUtf8Mark, kMarkSize) != kMarkSize) {
+    if (encoding.kind == TextEncoding::Kind::Utf8 && encoding.byteOrderMark &&
+        device.write(kUtf8Mark, kMarkSize) != kMarkSize) {
         result.error = u"Schreibfehler: %1"_s.arg(device.errorString());
         return result;
     }
