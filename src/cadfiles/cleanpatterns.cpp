@@ -31,14 +31,13 @@ CleaningPatterns::CleaningPatterns(const QString& patternText) {
         const QString trimmed = pattern.trimmed();
         if (trimmed.isEmpty())
             continue;
-        m_patterns.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(trimmed),
-                                             QRegularExpression::CaseInsensitiveOption));
+        m_patterns.emplace_back(trimmed);
     }
 }
 
 bool CleaningPatterns::matches(const QString& fileName) const {
-    for (const QRegularExpression& pattern : m_patterns) {
-        if (pattern.match(fileName).hasMatch())
+    for (const FindPattern& pattern : m_patterns) {
+        if (pattern.matches(fileName))
             return true;
     }
     return false;
