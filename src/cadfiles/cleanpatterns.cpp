@@ -33,15 +33,14 @@ CleaningPatterns::CleaningPatterns(const QString& patternText) {
         const QString trimmed = pattern.trimmed();
         if (trimmed.isEmpty())
             continue;
-        m_patterns.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(trimmed),
-                                             QRegularExpression::CaseInsensitiveOption));
+        m_patterns.emplace_back(trimmed);
     }
 }
 
 bool CleaningPatterns::matches(const QString& fileName) const {
-    for (const QRegularExpression& pattern : m_patterns) {
+    for (const FindPattern& pattern : m_patterns) {
         // Kept bytes of a Latin-1 name are matched as the characters they stand for.
-        if (pattern.match(readableFileName(fileName)).hasMatch())
+        if (pattern.matches(readableFileName(fileName)))
             return true;
     }
     return false;

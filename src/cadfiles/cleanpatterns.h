@@ -1,8 +1,11 @@
 #pragma once
 
-#include <QRegularExpression>
+#include "cadfiles/findpattern.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <vector>
 
 namespace quenfor {
 
@@ -19,20 +22,20 @@ QStringList extensionsFromPatterns(const QString& patternText);
 // The pattern text built from the extensions list: "*.abc*;*.def*". Empty for no extensions.
 QString patternsFromExtensions(const QStringList& extensions);
 
-// Matches file names against a ";"-separated wildcard list, without regard to case as the file
-// list control does. Empty patterns are ignored; a list without any pattern matches nothing, so
-// an emptied list can never clean a whole folder.
+// Matches file names against a ";"-separated wildcard list by the finder's rule (findpattern.h),
+// without regard to case as the file list control does. Empty patterns are ignored; a list
+// without any pattern matches nothing, so an emptied list can never clean a whole folder.
 class CleaningPatterns {
 public:
     explicit CleaningPatterns(const QString& patternText);
 
-    bool isEmpty() const { return m_patterns.isEmpty(); }
+    bool isEmpty() const { return m_patterns.empty(); }
     bool matches(const QString& fileName) const;
     // The matching names, in the order given.
     QStringList filter(const QStringList& fileNames) const;
 
 private:
-    QList<QRegularExpression> m_patterns;
+    std::vector<FindPattern> m_patterns;
 };
 
 } // namespace quenfor

@@ -1,7 +1,7 @@
 #include "cadfiles/drawingmodel.h"
 
-#include "common/fileexists.h"
 #include "common/pathsplit.h"
+#include "common/regularfile.h"
 #include "document/textencoding.h"
 
 #include <QCoreApplication>
@@ -99,12 +99,18 @@ DrawingCheck checkDrawing(const QString& path, const QString& codepage) {
     DrawingCheck check;
     check.path = path;
     check.drawingName = drawingNameOf(path);
-    if (!fileExists(path)) {
+    QFile file;
+    switch (openRegularFile(file, path)) {
+    case FileOpen::Opened:
+        break;
+    case FileOpen::Missing:
+    case FileOpen::Folder: // a folder is no drawing
         check.read = DrawingRead::Missing;
         return check;
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    case FileOpen::NotRegular:
+        check.read = DrawingRead::NotAFile;
+        return check;
+    case FileOpen::Unreadable:
         check.read = DrawingRead::Unreadable;
         return check;
     }
@@ -166,6 +172,8 @@ QString drawingCheckNote(const DrawingCheck& check) {
         return tr("Hinweis: Die Datei \"%1\" kann nicht gelesen werden.").arg(check.path);
     case DrawingRead::Missing:
         return tr("Hinweis: Die Datei \"%1\" gibt es nicht (mehr).").arg(check.path);
+    case DrawingRead::NotAFile:
+        return fileOpenRefusalText(FileOpen::NotRegular, check.path);
     }
     return {};
 }

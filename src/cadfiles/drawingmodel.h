@@ -15,6 +15,7 @@ enum class DrawingRead {
     Read,        // the first line reached the model name position
     ShortHeader, // the first line ends before the position: no model name
     Unreadable,  // the file exists but could not be opened or read
+    NotAFile,    // a pipe, socket or device: never opened for reading
     Missing,     // no such file
 };
 

@@ -1,5 +1,6 @@
 #include "cadfiles/drawingmodellist.h"
 
+#include "common/regularfile.h"
 #include "document/documentfile.h"
 
 #include <QCoreApplication>
@@ -210,8 +211,8 @@ QStringList readDrawingModelList(QIODevice& device, const QString& codepage) {
 }
 
 QStringList readDrawingModelList(const QString& path, const QString& codepage) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (openRegularFile(file, path) != FileOpen::Opened)
         return {};
     return readDrawingModelList(file, codepage);
 }

@@ -2,6 +2,7 @@
 
 #include "cadfiles/findattributes.h"
 #include "cadfiles/findpattern.h"
+#include "cadfiles/folderidentity.h"
 #include "common/folderstatus.h"
 
 #include <QDir>
@@ -171,10 +172,14 @@ void cFindFile::searchFolder(qint64& entriesRead) {
         return;
     }
     // Links may lead back up the tree; each real folder is read once, so every loop ends.
-    const QString canonical = folder.canonicalFilePath();
-    if (m_searched.contains(canonical))
+    const QString identity = folderIdentity(path);
+    if (identity.isEmpty()) {
+        m_unreadable.append(path);
         return;
-    m_searched.insert(canonical);
+    }
+    if (m_searched.contains(identity))
+        return;
+    m_searched.insert(identity);
 
     QStringList subfolders;
     bool anyEntry = false;

@@ -90,7 +90,7 @@ private:
     std::atomic_bool m_cancel = false;
     bool m_cancelled = false;
     bool m_running = false;
-    QSet<QString> m_searched; // canonical paths of the folders searched in this search
+    QSet<QString> m_searched; // identities of the folders searched in this search (folderidentity.h)
     QStringList m_unreadable;
     mutable QString m_lastFailure;
 };

@@ -78,4 +78,13 @@ bool FindPattern::matchFrom(size_t token, qsizetype position, QStringView name, 
     return result;
 }
 
+QString wildcardRulesHelp() {
+    return u"  Muster (dieselbe Regel für find und clean, wie bei der Dateisuche von Windows):\n"
+           "    *  beliebig viele Zeichen, aber nie der letzte Punkt des Namens, wenn ein \".\" folgt;\n"
+           "       \"*.*\" ist dasselbe wie \"*\", \"*.\" findet Namen ohne Punkt\n"
+           "    ?  ein Zeichen; vor einem Punkt und am Namensende auch keines\n"
+           "    .  vor \"*\", \"?\" oder am Ende passt auch dort, wo der Name keinen Punkt mehr hat\n"
+           "    Groß-/Kleinschreibung egal; alle anderen Zeichen (auch \"[\" und \"]\") stehen für sich.\n"_s;
+}
+
 } // namespace quenfor

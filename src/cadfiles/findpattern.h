@@ -14,7 +14,7 @@ namespace quenfor {
 // - "?" is one character, or nothing at a dot or at the end of the name;
 // - a "." before "*", "?" or at the end may also stand for the missing dot of a name without one;
 // - letters match regardless of case.
-// An empty pattern matches nothing.
+// An empty pattern matches nothing. The finder and the clean's pattern list both use this rule.
 class FindPattern {
 public:
     explicit FindPattern(QStringView pattern);
@@ -34,5 +34,8 @@ private:
     std::vector<Token> m_tokens;
     bool m_empty = false;
 };
+
+// The rule above in German, as lines for a command's --help.
+QString wildcardRulesHelp();
 
 } // namespace quenfor

@@ -18,7 +18,9 @@ struct CliArgs {
     std::optional<QString> dataDir;  // --data DIR
     bool help = false;
     bool version = false;
-    QStringList flags; // command-specific flags such as -r, -n, kept for the command to check
+    // Command-specific flags such as -r, -n, kept for the command to check; "--mask N" comes as
+    // "--mask=N".
+    QStringList flags;
 };
 
 // Parses the arguments (without the program name). Returns an error text for usage errors.

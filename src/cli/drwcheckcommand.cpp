@@ -63,6 +63,12 @@ int runDrwCheckCommand(const CliArgs& args, const CliStreams& io) {
             }
         } else if (fileExists(path)) {
             const DrawingCheck check = checkDrawingWithModelList(path, codepage);
+            // A pipe or device named by mistake is no drawing: it gets no result line.
+            if (check.read == DrawingRead::NotAFile) {
+                io.message(drawingCheckNote(check));
+                status = kFailed;
+                continue;
+            }
             printCheck(check, io);
             count(check);
         } else {
@@ -90,7 +96,9 @@ QString drwCheckCommandHelp() {
            "  getrennt; leer, wenn sie keine nennt). Die ersten drei Spalten folgen allein der Regel\n"
            "  mit Zeichen 725; die vierte hilft bei Zeichnungen neuerer Versionen.\n"
            "  Steuerzeichen im Modellnamen erscheinen als ^@ ... ^_ und ^?.\n"
-           "  Exit-Status 1, wenn ein PFAD nicht existiert; die übrigen werden trotzdem geprüft.\n"_s;
+           "  Nur gewöhnliche Dateien werden gelesen; eine Pipe oder ein Gerät wird abgelehnt.\n"
+           "  Exit-Status 1, wenn ein PFAD nicht existiert oder keine gewöhnliche Datei ist; die\n"
+           "  übrigen werden trotzdem geprüft.\n"_s;
 }
 
 } // namespace quenfor::cli

@@ -1,6 +1,7 @@
 #include "cli/findcommand.h"
 
 #include "cadfiles/findfile.h"
+#include "cadfiles/findpattern.h"
 #include "cli/documentio.h"
 #include "common/fileexists.h"
 
@@ -17,12 +18,6 @@ const QString kSynopsis = u"find [--no-subfolders] [--mask N] ORDNER MUSTER"_s;
 // Hits are written in blocks: a tree can hold hundreds of thousands of them.
 constexpr qsizetype kFlushSize = 64 * 1024;
 
-bool isInteger(const QString& text) {
-    bool ok = false;
-    text.toLongLong(&ok);
-    return ok;
-}
-
 struct FindOptions {
     bool inclSubfolders = true;
     std::optional<QString> mask;
@@ -30,34 +25,25 @@ struct FindOptions {
     QString pattern;
 };
 
-// The common parser keeps "--mask" among the flags and its value among the words, or among the
-// flags when it is negative; the synopsis puts the options before ORDNER, so the first word is it.
+// The options may stand anywhere among ORDNER and MUSTER; the common parser hands "--mask N" over
+// as one flag "--mask=N".
 std::optional<FindOptions> parseFindOptions(const CliArgs& args) {
     FindOptions options;
-    QStringList words = args.positional;
-    for (qsizetype i = 0; i < args.flags.size(); ++i) {
-        const QString& flag = args.flags[i];
+    for (const QString& flag : args.flags) {
         if (flag == u"--no-subfolders") {
             options.inclSubfolders = false;
-        } else if (flag == u"--mask" || flag.startsWith(u"--mask=")) {
+        } else if (flag.startsWith(u"--mask=")) {
             if (options.mask)
                 return std::nullopt;
-            if (flag != u"--mask")
-                options.mask = flag.mid(7);
-            else if (i + 1 < args.flags.size() && isInteger(args.flags[i + 1]))
-                options.mask = args.flags[++i];
-            else if (!words.isEmpty())
-                options.mask = words.takeFirst();
-            else
-                return std::nullopt;
+            options.mask = flag.mid(7);
         } else {
             return std::nullopt;
         }
     }
-    if (words.size() != 2 || args.inPlace || args.outFile || args.kbFile)
+    if (args.positional.size() != 2 || args.inPlace || args.outFile || args.kbFile)
         return std::nullopt;
-    options.folder = words[0];
-    options.pattern = words[1];
+    options.folder = args.positional[0];
+    options.pattern = args.positional[1];
     return options;
 }
 
@@ -124,15 +110,16 @@ int runFindCommand(const CliArgs& args, const CliStreams& io) {
 QString findCommandHelp() {
     return u"quenfor-cli find [--no-subfolders] [--mask N] ORDNER MUSTER\n"
            "  Dateisuche: listet alle Einträge von ORDNER und seinen Unterverzeichnissen, deren Name\n"
-           "  zum MUSTER passt (\"*\" und \"?\" wie unter Windows, Groß-/Kleinschreibung egal; ein\n"
-           "  Muster, keine Liste). Je Treffer eine Zeile: Verzeichnis, Tabulator, Dateiname,\n"
-           "  Tabulator, Größe (ab 2 GiB falsch, wie im Original). Ausgabe UTF-8 mit LF.\n"
+           "  zum MUSTER passt (ein Muster, keine Liste). Je Treffer eine Zeile: Verzeichnis,\n"
+           "  Tabulator, Dateiname, Tabulator, Größe (32 Bit: ab 2 GiB falsch). Ausgabe UTF-8 mit LF.\n"
+           "  Die Optionen dürfen vor, zwischen oder nach ORDNER und MUSTER stehen.\n"
            "  --no-subfolders  nur ORDNER selbst durchsuchen\n"
            "  --mask N         Attributmaske (Vorgabe 439): ein Eintrag wird nur gemeldet, wenn jedes\n"
            "                   seiner Attribute auch in N gesetzt ist. Schreibgeschützt 1, versteckt\n"
            "                   (Name beginnt mit \".\") 2, Verzeichnis 16, Archiv (normale Datei) 32,\n"
            "                   normal (weder Datei noch Verzeichnis) 128. 33 = nur Dateien.\n"
-           "  Verlinkte Verzeichnisse werden durchsucht, aber kein Verzeichnis zweimal.\n"_s;
+           "  Verlinkte Verzeichnisse werden durchsucht, aber kein Verzeichnis zweimal.\n"_s +
+           wildcardRulesHelp();
 }
 
 } // namespace quenfor::cli

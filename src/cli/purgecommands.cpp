@@ -1,5 +1,6 @@
 #include "cli/purgecommands.h"
 
+#include "cadfiles/findpattern.h"
 #include "cadfiles/purgesettings.h"
 #include "cadfiles/purgetree.h"
 #include "cli/documentio.h"
@@ -129,7 +130,8 @@ QString purgeCommandHelp(const QString& command) {
                "  -r                 auch alle Unterverzeichnisse (verlinkte werden nicht betreten)\n"
                "  -n, --dry-run      nichts löschen, nur ausgeben, was gelöscht würde\n"
                "  --patterns MUSTER  Muster durch \";\" getrennt, z. B. \"*.log*;*.inf*\"; ohne die Option\n"
-               "                     die gespeicherte Liste von Dr.Fegel, sonst die Standardliste\n"_s;
+               "                     die gespeicherte Liste von Dr.Fegel, sonst die Standardliste\n"_s +
+               wildcardRulesHelp();
     }
     return {};
 }

@@ -3,6 +3,7 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "common/programfolders.h"
+#include "common/regularfile.h"
 #include "common/wholefile.h"
 #include "document/linesplit.h"
 
@@ -51,12 +52,18 @@ EditorFile readEditorFile(const QString& path, const EncodingChoice& choice) {
         return refused(u"Die Datei %1 gibt es nicht."_s.arg(native(path)));
     if (info.isDir())
         return refused(u"%1 ist ein Verzeichnis, keine Datei."_s.arg(native(path)));
+    // A pipe or device would block the editor or never end; its size says nothing.
+    if (const FileOpen status = regularFileStatus(path); status != FileOpen::Opened)
+        return refused(fileOpenRefusalText(status, path));
     if (info.size() > kMaxEditorFileBytes)
         return refused(u"Die Datei %1 ist mit %2 MB zu groß für den Text-Editor (höchstens %3 MB)."_s.arg(native(path))
                            .arg(info.size() / (1024 * 1024))
                            .arg(kMaxEditorFileBytes / (1024 * 1024)));
-    const QByteArray bytes = readWholeFile(path);
-    if (bytes.isEmpty() && (info.size() > 0 || !info.isReadable()))
+    FileOpen opened = FileOpen::Opened;
+    const QByteArray bytes = readWholeFile(path, &opened);
+    if (opened == FileOpen::NotRegular || opened == FileOpen::Folder)
+        return refused(fileOpenRefusalText(opened, path));
+    if (bytes.isEmpty() && (opened != FileOpen::Opened || info.size() > 0 || !info.isReadable()))
         return refused(u"Die Datei %1 kann nicht gelesen werden."_s.arg(native(path)));
     if (bytes.contains('\0'))
         return refused(

@@ -1,6 +1,7 @@
 #include "desktools/pictureloader.h"
 
 #include "common/fileexists.h"
+#include "common/regularfile.h"
 #include "desktools/picturetypes.h"
 
 #include <QFileInfo>
@@ -93,6 +94,9 @@ QString loadPicture(const QString& name, bool preferFullReader, PictureDecoder& 
         return u"Ungeeigneter Dateiname"_s;
     if (!fileExists(path))
         return u"Datei nicht vorhanden/verfügbar"_s;
+    // A pipe or device is no picture, and reading one could block the viewer.
+    if (const FileOpen status = regularFileStatus(path); status != FileOpen::Opened)
+        return fileOpenRefusalText(status, path);
     if (QFileInfo(path).size() < kSmallestPicture)
         return u"Leere Datei"_s;
 

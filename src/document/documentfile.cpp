@@ -1,5 +1,6 @@
 #include "document/documentfile.h"
 
+#include "common/regularfile.h"
 #include "document/linesplit.h"
 
 #include <QDir>
@@ -155,7 +156,9 @@ QString readErrorText(const QString& path, const QFile& file, int err) {
         return u"%1 ist ein Verzeichnis und keine Datei."_s.arg(name);
     if (err == EACCES || err == EPERM)
         return u"Die Datei %1 kann nicht gelesen werden: Es fehlen die Leserechte."_s.arg(name);
-    return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, file.errorString());
+    // The file may never have reached the open: then the system's own reason is the one to show.
+    const QString reason = file.error() == QFileDevice::NoError ? qt_error_string(err) : file.errorString();
+    return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, reason);
 }
 
 ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip, qsizetype expectedLines) {
@@ -213,18 +216,14 @@ bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& un
 } // namespace
 
 ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
-    QFile file(path);
-    // A FIFO or device would block the reading or never end: only regular files are documents.
-    if (const QFileInfo info(path); info.exists() && !info.isDir() && !info.isFile()) {
-        ReadResult result;
-        result.error = u"%1 ist keine gewöhnliche Datei, sondern ein Gerät, eine FIFO oder ein Socket; "
-                       u"gelesen werden nur gewöhnliche Dateien."_s.arg(nativePath(path));
-        return result;
-    }
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    const FileOpen opened = openRegularFile(file, path);
+    if (opened != FileOpen::Opened) {
         const int err = errno;
         ReadResult result;
-        result.error = readErrorText(path, file, err);
+        // A pipe or device is refused before it could block the read.
+        result.error =
+            opened == FileOpen::NotRegular ? fileOpenRefusalText(opened, path) : readErrorText(path, file, err);
         return result;
     }
 

@@ -1,7 +1,12 @@
 #include "cadfiles/drawingmodel.h"
 
 #include "../common/qstringprinting.h"
+#include "cadfiles/drawingmodellist.h"
 #include "drawingfixture.h"
+
+#ifdef Q_OS_UNIX
+#include "../common/unblockingfifo.h"
+#endif
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -157,6 +162,21 @@ TEST(DrawingModel, MissingAndUnreadableFiles) {
     EXPECT_TRUE(unreadable.modelName.isEmpty());
     EXPECT_TRUE(drawingCheckNote(unreadable).contains(u"kann nicht gelesen werden"_s));
 }
+
+#ifdef Q_OS_UNIX
+TEST(DrawingModel, APipeIsRefusedWithoutWaitingForAWriter) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath(u"pipe.drw"_s);
+    UnblockingFifo fifo(path);
+    ASSERT_TRUE(fifo.isValid());
+    for (const DrawingCheck& check : {checkDrawing(path), checkDrawingWithModelList(path, u"windows-1252"_s)}) {
+        EXPECT_EQ(check.read, DrawingRead::NotAFile);
+        EXPECT_FALSE(check.matches);
+        EXPECT_TRUE(check.listedModels.isEmpty());
+        EXPECT_TRUE(drawingCheckNote(check).contains(u"keine gewöhnliche Datei"_s)) << drawingCheckNote(check).toStdString();
+    }
+}
+#endif
 
 TEST(DrawingModel, StatusTextsAndNotes) {
     DrawingCheck check;

@@ -2,11 +2,13 @@
 #include "cadfiles/findfile.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -253,6 +255,38 @@ TEST_F(FindFileTest, LinkLoopsEndAndEveryFolderIsSearchedOnce) {
     EXPECT_EQ(found.count(u"self.prt"_s), 1);
     EXPECT_EQ(found.count(u"a/library/shared.prt"_s), 1);
     EXPECT_EQ(found.size(), 3) << found.join(u", "_s).toStdString();
+}
+
+TEST_F(FindFileTest, ADeepFolderChainTakesTimeInProportionToItsDepth) {
+    // 1200 levels of one-letter folders: a search that resolved every folder's full path component
+    // by component took many seconds here (the cube of the depth); one status call per folder
+    // keeps it well below a second.
+    constexpr int kLevels = 1200;
+    const int rootFd = ::open(QFile::encodeName(root()).constData(), O_RDONLY | O_DIRECTORY);
+    ASSERT_GE(rootFd, 0);
+    int fd = rootFd;
+    for (int level = 0; level < kLevels; ++level) {
+        ASSERT_EQ(::mkdirat(fd, "k", 0755), 0);
+        const int next = ::openat(fd, "k", O_RDONLY | O_DIRECTORY);
+        ASSERT_GE(next, 0);
+        ::close(fd);
+        fd = next;
+    }
+    const int bottom = ::openat(fd, "tief.prt.1", O_WRONLY | O_CREAT, 0644);
+    ASSERT_GE(bottom, 0);
+    ::close(bottom);
+    ::close(fd);
+
+    QElapsedTimer clock;
+    clock.start();
+    const QStringList found = search(u"tief.prt*"_s);
+    const qint64 elapsed = clock.elapsed();
+    QString expected;
+    for (int level = 0; level < kLevels; ++level)
+        expected += u"k/"_s;
+    EXPECT_EQ(found, QStringList{expected + u"tief.prt.1"_s});
+    EXPECT_EQ(m_stopQuestions, kLevels);
+    EXPECT_LT(elapsed, 3000) << "ms for " << kLevels << " levels";
 }
 
 TEST_F(FindFileTest, UnreadableFolderYieldsNothingAndIsReported) {

@@ -282,5 +282,24 @@ TEST(CleaningPatterns, buildAndMatch) {
     EXPECT_FALSE(CleaningPatterns(QString()).matches(u"anything"_s));
 }
 
+TEST(CleaningPatterns, followTheFindersWildcardRule) {
+    const struct {
+        QString pattern;
+        QString name;
+        bool matches;
+    } cases[] = {
+        {u"*.*"_s, u"ohnepunkt"_s, true}, // "*.*" is "*"
+        {u"*."_s, u"ohnepunkt"_s, true},         {u"*."_s, u"a.log"_s, false},
+        {u"a[1].log*"_s, u"a[1].log.2"_s, true},                                  // brackets are plain characters
+        {u"a[1].log*"_s, u"a1.log"_s, false},    {u"x?.log"_s, u"x.log"_s, true}, // "?" may be nothing before a dot
+        {u"*.LOG*"_s, u"trail.log.12"_s, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE((c.pattern + u" / "_s + c.name).toStdString());
+        EXPECT_EQ(CleaningPatterns(c.pattern).matches(c.name), c.matches);
+        EXPECT_EQ(FindPattern(c.pattern).matches(c.name), c.matches);
+    }
+}
+
 } // namespace
 } // namespace quenfor

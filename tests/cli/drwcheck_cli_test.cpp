@@ -3,6 +3,10 @@
 #include "../cadfiles/modellistfixture.h"
 #include "clitest.h"
 
+#ifdef Q_OS_UNIX
+#include "../common/unblockingfifo.h"
+#endif
+
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -71,6 +75,17 @@ TEST_F(DrwCheckCliTest, MissingPathFailsButTheOthersAreChecked) {
     EXPECT_EQ(r.out, QByteArray("EINZELN\tEINZELN2\tNICHT\t\n"));
     EXPECT_TRUE(r.err.contains(u"gibt es nicht"_s)) << r.err.toStdString();
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(DrwCheckCliTest, APipeIsRefusedAndTheOthersAreChecked) {
+    UnblockingFifo fifo(path(u"pipe.drw"_s));
+    ASSERT_TRUE(fifo.isValid());
+    const CliRun r = run({u"drwcheck"_s, path(u"pipe.drw"_s), path(u"einzeln.drw"_s)});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, QByteArray("EINZELN\tEINZELN2\tNICHT\t\n"));
+    EXPECT_TRUE(r.err.contains(u"keine gewöhnliche Datei"_s)) << r.err.toStdString();
+}
+#endif
 
 TEST_F(DrwCheckCliTest, UsageErrors) {
     for (const QStringList& args :

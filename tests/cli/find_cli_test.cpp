@@ -83,6 +83,29 @@ TEST_F(FindCliTest, OptionsNarrowTheSearch) {
     }
 }
 
+TEST_F(FindCliTest, OptionsMayStandAfterTheFolderAndPattern) {
+    const QStringList filesOnly = {line({}, u"bracket.prt.1"_s, 5), line({}, u"bracket.prt.2"_s, 7),
+                                   line(u"Müller"_s, u"welle.PRT.3"_s, 3), line(u"Müller/alt"_s, u"welle.prt.1"_s, 2)};
+    for (const QStringList& args : {QStringList{u"find"_s, tree.path(), u"*.prt*"_s, u"--mask"_s, u"33"_s},
+                                    QStringList{u"find"_s, tree.path(), u"--mask"_s, u"33"_s, u"*.prt*"_s}}) {
+        const CliRun r = run(args);
+        EXPECT_EQ(r.status, 0) << args.join(u' ').toStdString() << ": " << r.err.toStdString();
+        EXPECT_EQ(sortedLines(r.out), sorted(filesOnly)) << args.join(u' ').toStdString();
+    }
+    const CliRun missing = run({u"find"_s, tree.path(), u"*.prt*"_s, u"--mask"_s});
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_TRUE(missing.err.contains(u"--mask braucht einen Wert"_s)) << missing.err.toStdString();
+    EXPECT_TRUE(missing.out.isEmpty());
+}
+
+TEST_F(FindCliTest, HelpOfFindAndCleanStatesTheOneWildcardRule) {
+    for (const QString& command : {u"find"_s, u"clean"_s}) {
+        const CliRun r = run({command, u"--help"_s});
+        EXPECT_EQ(r.status, 0);
+        EXPECT_TRUE(QString::fromUtf8(r.out).contains(u"dieselbe Regel für find und clean"_s)) << r.out.toStdString();
+    }
+}
+
 TEST_F(FindCliTest, BadInputIsToldAndNothingIsPrinted) {
     struct Case {
         QStringList args;

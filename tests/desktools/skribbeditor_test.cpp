@@ -3,6 +3,9 @@
 // stands, what the explanation says, and that the hand-back through quen.tmp loses no character.
 #include "../common/qstringprinting.h"
 #include "../settings/storesandbox.h"
+#ifdef Q_OS_UNIX
+#include "../common/unblockingfifo.h"
+#endif
 #include "desktools/caretposition.h"
 #include "desktools/editorexplanation.h"
 #include "desktools/editorfile.h"
@@ -167,6 +170,16 @@ TEST_F(EditorFiles, OpeningRefusesWhatTheBoxCannotHold) {
         EXPECT_TRUE(file.error.contains(c.reasonPart)) << file.error.toStdString();
     }
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(EditorFiles, APipeIsRefusedInsteadOfOpenedAsEmpty) {
+    UnblockingFifo fifo(home(u"pipe.txt"_s));
+    ASSERT_TRUE(fifo.isValid());
+    const EditorFile file = readEditorFile(home(u"pipe.txt"_s), {});
+    EXPECT_FALSE(file.ok);
+    EXPECT_TRUE(file.error.contains(u"keine gewöhnliche Datei"_s)) << file.error.toStdString();
+}
+#endif
 
 TEST_F(EditorFiles, OpenBoxListsTheFilesOfThePattern) {
     for (const QString& name : {u"b.PRO"_s, u"a.pro"_s, u"c.txt"_s, u"ohne"_s, u".versteckt.pro"_s})

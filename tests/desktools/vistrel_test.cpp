@@ -2,6 +2,9 @@
 // decoder), the console's command table, the colour schemes and the commands that touch files.
 #include "../common/qstringprinting.h"
 #include "../settings/storesandbox.h"
+#ifdef Q_OS_UNIX
+#include "../common/unblockingfifo.h"
+#endif
 #include "common/pathsplit.h"
 #include "desktools/pictureloader.h"
 #include "desktools/picturetypes.h"
@@ -117,6 +120,16 @@ TEST_F(PictureLoaderTest, MissingFilesAndFoldersAreNotAvailable) {
     EXPECT_EQ(loadPicture(m_dir.filePath(u"ordner.png"_s), false, m_decoder), u"Datei nicht vorhanden/verfügbar"_s);
     EXPECT_TRUE(m_decoder.calls.isEmpty());
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(PictureLoaderTest, APipeIsRefusedBeforeAnyReader) {
+    const QString path = m_dir.filePath(u"pipe.png"_s);
+    UnblockingFifo fifo(path);
+    ASSERT_TRUE(fifo.isValid());
+    EXPECT_TRUE(loadPicture(path, false, m_decoder).contains(u"keine gewöhnliche Datei"_s));
+    EXPECT_TRUE(m_decoder.calls.isEmpty());
+}
+#endif
 
 TEST_F(PictureLoaderTest, UnknownTypesAreRefusedBeforeDecoding) {
     EXPECT_EQ(loadPicture(file(u"bild.txt"_s, 100), false, m_decoder), u"Bildformat wird nicht unterstützt"_s);

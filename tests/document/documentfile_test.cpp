@@ -4,6 +4,10 @@
 #include "document/documentfile.h"
 #include "document/linekind.h"
 
+#ifdef Q_OS_UNIX
+#include "../common/unblockingfifo.h"
+#endif
+
 #include <QBuffer>
 #include <QTemporaryDir>
 
@@ -58,6 +62,17 @@ protected:
 
     QTemporaryDir m_dir;
 };
+
+#ifdef Q_OS_UNIX
+TEST_F(DocumentFileTest, APipeIsRefusedInsteadOfReadAsAnEmptyFile) {
+    UnblockingFifo fifo(path(u"pipe.pro"_s));
+    ASSERT_TRUE(fifo.isValid());
+    const ReadResult read = readDocumentFile(path(u"pipe.pro"_s), {});
+    EXPECT_FALSE(read.ok);
+    EXPECT_TRUE(read.lines.isEmpty());
+    EXPECT_TRUE(read.error.contains(u"keine gewöhnliche Datei"_s)) << read.error.toStdString();
+}
+#endif
 
 TEST_F(DocumentFileTest, EveryByteButCrAndLfComesBackUnchanged) {
     QByteArray bytes;

@@ -336,7 +336,8 @@ void DrawingCheckerWindow::finishCheck() {
 
     qsizetype unreadable = 0;
     for (const DrawingCheck& check : result.checks) {
-        if (check.read == DrawingRead::ShortHeader || check.read == DrawingRead::Unreadable)
+        if (check.read == DrawingRead::ShortHeader || check.read == DrawingRead::Unreadable ||
+            check.read == DrawingRead::NotAFile)
             ++unreadable;
     }
     if (unreadable > 0)
