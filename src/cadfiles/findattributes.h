@@ -29,7 +29,8 @@ constexpr bool acceptedByMask(qint32 attributes, qint32 mask) {
 }
 
 // The size the finder reports: the low 32 bits minus the high 32 bits, both read as signed 32-bit
-// numbers, wrapping like the original's arithmetic. True below 2 GiB; 4 GiB + 10 bytes gives 9.
+// numbers, wrapping in 32 bits (the finder's size field is 32 bits wide). True below 2 GiB;
+// 4 GiB + 10 bytes gives 9.
 qint32 findFileSize(qint64 bytes);
 
 } // namespace quenfor

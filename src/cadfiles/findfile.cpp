@@ -31,7 +31,8 @@ bool isPathSeparator(QChar c) {
     return c == u'/' || c == QDir::separator();
 }
 
-// Times as the original reports them: the file system's UTC clock values, whole seconds.
+// Times as the finder reports them: the file system's UTC clock values, whole seconds, so that
+// hits compare the same whatever the local time zone.
 QDateTime wholeSecondsUtc(const QDateTime& time) {
     if (!time.isValid())
         return time;

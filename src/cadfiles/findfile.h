@@ -34,7 +34,7 @@ public:
     using Progress = std::function<void(const QString& folder, qint64 entriesRead)>;
 
     static constexpr qint32 defaultFileFlag = 439;
-    // More subfolders in one folder overflow the original's 16-bit list.
+    // The subfolder list of one folder is 16 bits wide; more subfolders are an overflow error.
     static constexpr qsizetype maxSubfolders = 32767;
 
     cFindFile() = default;

@@ -16,7 +16,7 @@ namespace {
 
 // A name shorter than this cannot be a path with a picture type.
 constexpr qsizetype kShortestName = 5;
-// Files below this size cannot hold a picture; the original loader used the same bound.
+// Files below this size cannot hold a picture: even the smallest picture header is longer.
 constexpr qint64 kSmallestPicture = 10;
 
 } // namespace

@@ -10,9 +10,9 @@ namespace quenfor {
 // live here; the decoding itself sits behind PictureDecoder, so that this library needs no
 // picture classes and the rules can be tried with a stand-in decoder.
 
-// The steps of the full reader, named after the library calls of the original loader that they
-// stand in for: starting the library, the bitmap from the file (the header is read), the bitmap
-// handle (the pixels are decoded), the picture object (the pixels become a displayable picture).
+// The steps of the full reader, each with its own failure text: starting the library, the bitmap
+// from the file (the header is read), the bitmap handle (the pixels are decoded), the picture
+// object (the pixels become a displayable picture).
 enum class ReadStep { Startup, Bitmap, Handle, Picture };
 
 // Why a step failed, in the image readers' own terms.
@@ -42,7 +42,7 @@ public:
     virtual std::optional<ReadFailure> readFull(const QString& path) = 0;
 };
 
-// Codes of the status table of the original loader's picture library.
+// Status codes of the picture library (GDI+), whose German texts the viewer shows.
 enum class GdiplusStatus {
     Ok = 0,
     GenericError = 1,
