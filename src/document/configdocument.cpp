@@ -5,11 +5,13 @@ namespace quenfor {
 ConfigDocument::ConfigDocument(QObject* parent) : QObject(parent) {}
 
 void ConfigDocument::setLine(int index, const QString& text) {
+    emit aboutToChange();
     m_lines[index] = text;
     emit linesChanged(index, index);
 }
 
 void ConfigDocument::insertLine(int index, const QString& text) {
+    emit aboutToChange();
     emit aboutToInsertLines(index, index);
     m_lines.insert(index, text);
     m_selected.insert(m_selected.begin() + index, 0);
@@ -28,6 +30,7 @@ void ConfigDocument::appendLine(const QString& text) {
 void ConfigDocument::appendLines(const QStringList& lines) {
     if (lines.isEmpty())
         return;
+    emit aboutToChange();
     const int first = count();
     const int last = first + int(lines.size()) - 1;
     emit aboutToInsertLines(first, last);
@@ -37,6 +40,7 @@ void ConfigDocument::appendLines(const QStringList& lines) {
 }
 
 void ConfigDocument::removeLine(int index) {
+    emit aboutToChange();
     emit aboutToRemoveLines(index, index);
     m_lines.removeAt(index);
     if (m_selected[index])
@@ -63,6 +67,7 @@ void ConfigDocument::clear() {
 }
 
 void ConfigDocument::replaceAll(QStringList lines) {
+    emit aboutToChange();
     emit aboutToBeReset();
     m_lines = std::move(lines);
     resetState();
@@ -74,6 +79,7 @@ void ConfigDocument::replaceAll(QStringList lines) {
 void ConfigDocument::swapLines(int a, int b) {
     if (a == b)
         return;
+    emit aboutToChange();
     m_lines.swapItemsAt(a, b);
     emit linesChanged(a, a);
     emit linesChanged(b, b);
@@ -82,6 +88,7 @@ void ConfigDocument::swapLines(int a, int b) {
 void ConfigDocument::moveLine(int from, int to) {
     if (from == to)
         return;
+    emit aboutToChange();
     m_lines.move(from, to);
     const char flag = m_selected[from];
     m_selected.erase(m_selected.begin() + from);

@@ -65,6 +65,8 @@ public:
     void setDiskStamp(const std::optional<FileStamp>& stamp) { m_diskStamp = stamp; }
 
 signals:
+    // Before any change of the lines (not of mark or selection): an undo history takes its copy.
+    void aboutToChange();
     void aboutToBeReset();
     void resetDone();
     void aboutToInsertLines(int first, int last);

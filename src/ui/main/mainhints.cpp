@@ -64,6 +64,8 @@ const QHash<QString, QString>& hintTable() {
         {u"img_vorschlag"_s,
          u"Linke Maustaste: Vorschlagsliste einfügen. Rechte Maustaste: Ghost-Optionen hinzufügen"_s},
         {u"img_kathi"_s, u"Sortiert die Optionen der Liste nach Themen"_s},
+        {u"cmd_undo"_s, u"Rückgängig: nimmt die letzte Änderung der Liste zurück (Strg+Z)"_s},
+        {u"cmd_redo"_s, u"Wiederholen: stellt die zuletzt zurückgenommene Änderung wieder her (Strg+Y)"_s},
         {u"Text1"_s, u"Eingabezeile: Zeigt den aktuellen Text der angewählten Zeile an. Texte die in diese Zeile "
                      "eingegeben werden müssen mit >Enter< bestätigt werden um Sie in der Liste zu plazieren."_s},
         {u"List1"_s, u"Tipp: mit der rechten Maustaste gelangen Sie in das Kontextmenü in dem Sie schnell viele "

@@ -48,6 +48,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     m_folders->registerHints(*m_hints);
     connectMenus();
     connectEditing();
+    connectUndo();
     connectTools();
     connectPanels();
     connectKnowledge();

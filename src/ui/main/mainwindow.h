@@ -25,6 +25,7 @@ class ReplaceDialog;
 class SearchProWindow;
 class TastomatWindow;
 class ConfigDocument;
+class DocumentUndo;
 class ContextMenuPanel;
 class DocumentListView;
 class EntryLinePanel;
@@ -100,6 +101,7 @@ private:
     void appendStatusNote(const QString& note);
     void openLastFile();
     void save();
+    void connectUndo();
     StorageResult saveDocumentAsking();
     void showSearchDialog();
     void applyFamilyOf(const QString& fileName);
@@ -118,6 +120,7 @@ private:
     void showLintPanel();
 
     ConfigDocument* m_document;
+    DocumentUndo* m_undo = nullptr;
     StatusHints* m_hints = nullptr;
     MainMenus m_menus;
     QLabel* m_fileLabel = nullptr;    // Label1

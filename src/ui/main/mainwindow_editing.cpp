@@ -17,6 +17,7 @@
 #include "ui/main/entrylinepanel.h"
 #include "ui/knowledge/pickerpanel.h"
 #include "ui/widgets/qtclipboard.h"
+#include "ui/main/documentundo.h"
 #include "ui/main/toolcolumn.h"
 
 #include <QAbstractButton>
@@ -25,6 +26,9 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
+#include <QUndoStack>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +43,29 @@ void MainWindow::connectEditing() {
     connect(m_entry, &EntryLinePanel::returnPressed, this,
             [this] { setStatus(enterEntryLine(*m_document, m_entry->text())); });
     connect(m_entry, &EntryLinePanel::warningClicked, this, &MainWindow::splitMapkey);
+}
+
+void MainWindow::connectUndo() {
+    m_undo = new DocumentUndo(m_document, this);
+    QUndoStack* stack = m_undo->stack();
+    QAction* undo = stack->createUndoAction(this, tr("Rückgängig"));
+    undo->setObjectName(u"actRueckgaengig"_s);
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = stack->createRedoAction(this, tr("Wiederholen"));
+    redo->setObjectName(u"actWiederholen"_s);
+    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence::Redo});
+    // On the window, so the keys work wherever the focus is but in a text box with its own undo.
+    addActions({undo, redo});
+    connect(undo, &QAction::triggered, this, [this] { setStatus(tr("Letzte Änderung zurückgenommen")); });
+    connect(redo, &QAction::triggered, this, [this] { setStatus(tr("Änderung wiederhergestellt")); });
+    for (const auto& [name, action] : {std::pair{u"cmd_undo"_s, undo}, std::pair{u"cmd_redo"_s, redo}}) {
+        QAbstractButton* button = m_tools->button(name);
+        if (!button)
+            continue;
+        button->setEnabled(action->isEnabled());
+        connect(action, &QAction::changed, button, [button, action] { button->setEnabled(action->isEnabled()); });
+        connect(button, &QAbstractButton::clicked, action, &QAction::trigger);
+    }
 }
 
 void MainWindow::connectTools() {

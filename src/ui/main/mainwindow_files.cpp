@@ -14,6 +14,7 @@
 #include "ui/main/filechooserpanel.h"
 #include "ui/main/searchdialog.h"
 #include "ui/main/toolcolumn.h"
+#include "ui/main/documentundo.h"
 #include "ui/widgets/dialogs.h"
 #include "ui/widgets/programexit.h"
 
@@ -112,6 +113,7 @@ QString MainWindow::openFile(const QString& path) {
         Dialogs::information(this, opened.error);
         return {};
     }
+    m_undo->forgetHistory(); // another file: the steps of the last one do not apply
     rememberFolderOf(path);
     m_chooser->setFolder(QFileInfo(path).absolutePath());
     showFileLabel();

@@ -23,7 +23,12 @@ struct ButtonDefinition {
 
 // In groups: placing lines, moving and the clipboard, the clean-up tools, files and program.
 const std::initializer_list<ButtonDefinition> kGroups[] = {
-    {{u"Image9", u"+"}, {u"img_comment", u"!"}, {u"Image8", u"✗"}, {u"cmd_delAll", u"∅"}},
+    {{u"Image9", u"+"},
+     {u"img_comment", u"!"},
+     {u"Image8", u"✗"},
+     {u"cmd_delAll", u"∅"},
+     {u"cmd_undo", u"↶"},
+     {u"cmd_redo", u"↷"}},
     {{u"img_up", u"↑"}, {u"ontop", u"⇈"}, {u"copy", u"❐"}, {u"cut", u"✂"}, {u"paste", u"▤"}},
     {{u"img_Leerzeilen", u"¶"}, {u"img_doppelte", u"=="}, {u"img_alphabet", u"AZ"}, {u"img_grossklein", u"Aa"}},
     {{u"img_vorschlag", u"★"}, {u"img_dmapkeys", u"⌨="}, {u"cmd_listmapkeys", u"⌨"}, {u"cmd_pruefen", u"✓"}},

@@ -5,6 +5,7 @@
 #include "settings/mainsettings.h"
 #include "settings/settingsstore.h"
 #include "ui/main/mainwindow.h"
+#include "ui/widgets/toolwindow.h"
 #include "ui/widgets/dialogs.h"
 
 #include <QAbstractButton>
@@ -87,11 +88,45 @@ private slots:
         Dialogs::setHandler({});
     }
 
+    // Every change can be taken back, a whole-document tool in one step, and opening a file starts
+    // a new history.
+    void undoAndRedoTakeEveryChangeBackAndForth() {
+        QAction* undo = action(u"actRueckgaengig"_s);
+        QAction* redo = action(u"actWiederholen"_s);
+        QVERIFY(undo && redo);
+        QCOMPARE(undo->shortcut(), QKeySequence(QKeySequence::Undo));
+        QVERIFY(redo->shortcuts().contains(QKeySequence(Qt::CTRL | Qt::Key_Y)));
+        QVERIFY(!undo->isEnabled());
+        const QStringList original = doc().lines();
+
+        clickLine(3);
+        entry()->setText(u"OPT3 NEU"_s);
+        QTest::keyClick(entry(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        const QStringList edited = doc().lines();
+        action(u"mnuGrossKlein"_s)->trigger();
+        QCoreApplication::processEvents();
+        QCOMPARE(doc().line(3), u"opt3 neu"_s);
+
+        undo->trigger();
+        QCOMPARE(doc().lines(), edited);
+        QCOMPARE(label(u"lblstatus"_s), u"Letzte Änderung zurückgenommen"_s);
+        click(u"cmd_undo"_s);
+        QCOMPARE(doc().lines(), original);
+        QVERIFY(!undo->isEnabled());
+        redo->trigger();
+        QCOMPARE(doc().lines(), edited);
+        click(u"cmd_redo"_s);
+        QCOMPARE(doc().line(3), u"opt3 neu"_s);
+
+        m_window->startUp({m_file});
+        QCoreApplication::processEvents();
+        QVERIFY(!undo->isEnabled());
+        QVERIFY(!m_window->findChild<QAbstractButton*>(u"cmd_undo"_s)->isEnabled());
+    }
+
     // Actions that find nothing to do say so instead of doing nothing silently.
     void actionsWithNothingToDoSaySo() {
-        action(u"mnuDoppelteMapkeys"_s)->trigger();
-        QCOMPARE(label(u"lblstatus"_s), u"keine doppelten Mapkeys vorhanden !"_s);
-
         const QString gone = m_dir.filePath(u"weg.pro"_s);
         QVERIFY(setSettingValue(Setting::Label1, gone));
         click(u"cmd_last"_s);
@@ -293,6 +328,27 @@ private slots:
         QEvent enter(QEvent::Enter);
         QApplication::sendEvent(button, &enter);
         QCOMPARE(label(u"lblstatus"_s), u"Die markierte Zeile nach ganz oben verschieben"_s);
+    }
+
+    // Every tool window fits the free area of a 1366×768 laptop screen (title bar and task bar off).
+    void toolWindowsFitALaptopScreen() {
+        const QSize laptop(1366 - 20, 768 - 40 - 40);
+        for (const char16_t* entry : {u"mnuMapkeyGenerator", u"mnuAscii", u"mnuModellInZeichnung", u"mnuDrFegel",
+                                      u"mnuTextEditor", u"mnuScreenShot", u"mnuArbeitszeit", u"mnuSearchPro"}) {
+            const QString name = QString::fromUtf16(entry);
+            QAction* open = action(name);
+            QVERIFY2(open, qPrintable(name));
+            const QList<QWidget*> before = QApplication::topLevelWidgets();
+            open->trigger();
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                if (before.contains(window) || !window->isVisible())
+                    continue;
+                fitIntoArea(window, laptop);
+                QVERIFY2(window->width() <= laptop.width() && window->height() <= laptop.height(),
+                         qPrintable(name + u": %1×%2"_s.arg(window->width()).arg(window->height())));
+                window->close();
+            }
+        }
     }
 
     // Buttons that show only a symbol explain themselves where the pointer is.
