@@ -17,8 +17,9 @@ enum FindAttribute : qint32 {
     kAttributeTemporary = 256,
 };
 
-// The attributes of an entry in Windows terms: read-only = the owner may not write it, hidden = the
-// name starts with ".", directory, archive = a regular file. Windows reports "normal" only for an
+// The attributes of an entry in Windows terms. On Windows they are the file system's own bits;
+// elsewhere they are derived: read-only = the owner may not write it, hidden = the name starts
+// with ".", directory, archive = a regular file. Windows reports "normal" only for an
 // entry that carries no other bit; a regular file always carries archive, so here that is left to
 // the entries that are neither file nor folder (pipes, sockets, devices, broken links).
 qint32 findAttributes(const QFileInfo& entry);

@@ -4,6 +4,7 @@
 #include "cadfiles/findpattern.h"
 #include "cadfiles/folderidentity.h"
 #include "common/folderstatus.h"
+#include "common/pathnames.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -204,8 +205,14 @@ void cFindFile::searchFolder(qint64& entriesRead) {
                 created = entry.lastModified();
             // Windows gives folders no size.
             const qint32 size = isDirectory ? 0 : findFileSize(entry.size());
+#ifdef Q_OS_WIN
+            // The 8.3 name the file system keeps for the entry, if it keeps one.
+            const QString shortName = QFileInfo(shortPathName(entry.absoluteFilePath())).fileName();
+#else
+            const QString shortName; // Linux file systems keep no 8.3 names
+#endif
             m_matchFound(name, path, wholeSecondsUtc(created), size, wholeSecondsUtc(entry.lastRead()),
-                         wholeSecondsUtc(entry.lastModified()), QString());
+                         wholeSecondsUtc(entry.lastModified()), shortName);
         }
         ++entriesRead;
         if (m_progress)

@@ -17,6 +17,11 @@ struct FileStamp {
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
+// Why a save refuses to replace a file that another program changed since it was read.
+inline constexpr char16_t kChangedOnDiskReason[] =
+    u"Die Datei wurde seit dem Lesen von einem anderen Programm geändert oder gelöscht; "
+    u"sie wird nicht überschrieben, damit dessen Änderung nicht verloren geht.";
+
 // Why a write failed with this system error code, in German, a full sentence.
 QString writeErrorReason(int err);
 

@@ -253,8 +253,7 @@ struct SafeFileWrite::State {
         if (current == base)
             return true;
         changed = true;
-        return fail(u"Die Datei wurde seit dem Lesen von einem anderen Programm geändert oder gelöscht; "
-                    u"sie wird nicht überschrieben, damit dessen Änderung nicht verloren geht."_s);
+        return fail(QString::fromUtf16(kChangedOnDiskReason));
     }
 
     void removeTemp() {

@@ -56,9 +56,7 @@ DuplicateMapkeyWindow::DuplicateMapkeyWindow(ConfigDocument* document, QWidget* 
 QString DuplicateMapkeyWindow::findDuplicates() {
     m_entries->setStringList(m_document ? duplicateMapkeyLines(m_document->lines()) : QStringList());
     if (m_entries->rowCount() == 0) {
-        // No window opens then: the status line is where the answer shows.
         setWindowTitle(QString::fromUtf16(kNoDuplicateMapkeysCaption));
-        return QString::fromUtf16(kNoDuplicateMapkeysCaption);
     } else {
         setWindowTitle(tr("doppelte Mapkeys"));
         show();

@@ -11,8 +11,11 @@ void fitIntoScreen(QWidget* window) {
         return;
     // Room for the title bar and the window frame, which the size does not count.
     constexpr int kFrame = 40;
-    const QSize room = screen->availableGeometry().size() - QSize(kFrame / 2, kFrame);
-    window->resize(window->size().boundedTo(room).expandedTo(window->minimumSizeHint()));
+    fitIntoArea(window, screen->availableGeometry().size() - QSize(kFrame / 2, kFrame));
+}
+
+void fitIntoArea(QWidget* window, QSize area) {
+    window->resize(window->size().boundedTo(area).expandedTo(window->minimumSizeHint()));
 }
 
 } // namespace quenfor
