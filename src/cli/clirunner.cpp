@@ -6,6 +6,7 @@
 #include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
 #include "cli/findcommand.h"
+#include "cli/interpolatecommand.h"
 #include "cli/lintcommand.h"
 #include "cli/mapkeycommands.h"
 #include "cli/proposalcommands.h"
@@ -37,12 +38,19 @@ using Runner = int (*)(const CliArgs&, const CliStreams&);
 // The generators, mapkey tools and file utilities, each in a file of its own.
 const QHash<QString, Runner>& toolCommands() {
     static const QHash<QString, Runner> commands = {
-        {u"mapkeys"_s, runMapkeysCommand},     {u"mapkey-dups"_s, runMapkeyDupsCommand},
-        {u"favorite"_s, runFavoriteCommand},   {u"replace"_s, runReplaceCommand},
-        {u"proposal"_s, runProposalCommand},   {u"ghost"_s, runGhostCommand},
-        {u"searchpro"_s, runSearchProCommand}, {u"purge"_s, runPurgeCommand},
-        {u"clean"_s, runCleanCommand},         {u"drwcheck"_s, runDrwCheckCommand},
-        {u"find"_s, runFindCommand},           {u"lint"_s, runLintCommand},
+        {u"mapkeys"_s, runMapkeysCommand},
+        {u"mapkey-dups"_s, runMapkeyDupsCommand},
+        {u"favorite"_s, runFavoriteCommand},
+        {u"replace"_s, runReplaceCommand},
+        {u"proposal"_s, runProposalCommand},
+        {u"ghost"_s, runGhostCommand},
+        {u"searchpro"_s, runSearchProCommand},
+        {u"purge"_s, runPurgeCommand},
+        {u"clean"_s, runCleanCommand},
+        {u"drwcheck"_s, runDrwCheckCommand},
+        {u"find"_s, runFindCommand},
+        {u"lint"_s, runLintCommand},
+        {u"interpolate"_s, runInterpolateCommand},
     };
     return commands;
 }

@@ -3,6 +3,7 @@
 #include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
 #include "cli/findcommand.h"
+#include "cli/interpolatecommand.h"
 #include "cli/lintcommand.h"
 #include "cli/mapkeycommands.h"
 #include "cli/proposalcommands.h"
@@ -76,7 +77,9 @@ QString overviewHelp() {
            "Dateien des CAD-Systems:\n"
            "  purge, clean, drwcheck, find\n\n"
            "Prüfen (Rückgabewert 1 bei Befunden):\n"
-           "  lint\n\n"_s +
+           "  lint\n\n"
+           "Rechner:\n"
+           "  interpolate\n\n"_s +
            kCommonOptions +
            u"\nRückgabewert: 0 erledigt, 1 nicht möglich (Meldung auf stderr), 2 Aufruf fehlerhaft.\n"_s;
 }
@@ -99,6 +102,8 @@ QString commandHelp(const QString& command) {
         text = findCommandHelp();
     if (text.isEmpty() && command == u"lint")
         text = lintCommandHelp();
+    if (text.isEmpty() && command == u"interpolate")
+        text = interpolateCommandHelp();
     if (text.isEmpty())
         return {};
     return text + u'\n' + kCommonOptions;

@@ -19,6 +19,8 @@ int runSearchProCommand(const CliArgs& args, const CliStreams& io) {
     // The list is complete apart from these folders: say so, or the file would silently miss paths.
     for (const QString& folder : walk.unreadable)
         io.message(u"Nicht lesbar, seine Unterverzeichnisse fehlen: %1"_s.arg(folder));
+    for (const QString& folder : walk.hidden)
+        io.message(u"Versteckt, nicht aufgeführt: %1"_s.arg(folder));
 
     const TextEncoding encoding = TextEncoding::codepageNamed(encodingChoiceFor(args).codepage);
     return writeOutput({}, args, io, walk.folders, encoding);
@@ -28,8 +30,9 @@ QString searchProCommandHelp() {
     return u"quenfor-cli searchpro [--codepage NAME] [-o DATEI] ORDNER\n"
            "  \"search.pro-Generator\": listet alle Verzeichnisse unterhalb von ORDNER, erst die\n"
            "  Unterverzeichnisse von ORDNER, dann deren Unterverzeichnisse, Ebene für Ebene, jede\n"
-           "  Ebene nach Namen sortiert. Versteckte Verzeichnisse fehlen; verlinkte Verzeichnisse\n"
-           "  werden aufgeführt, aber nicht durchsucht. Ausgabe als Datei mit CR LF in der Codepage.\n"_s;
+           "  Ebene nach Namen sortiert. Versteckte Verzeichnisse fehlen (stderr\n"
+           "  nennt sie); verlinkte Verzeichnisse werden aufgeführt, aber nicht durchsucht.\n"
+           "  Ausgabe als Datei mit CR LF in der Codepage.\n"_s;
 }
 
 } // namespace quenfor::cli

@@ -14,6 +14,11 @@ namespace quenfor {
 struct PathConverters {
     std::function<QString(const QString& path, bool quiet)> toNetwork;
     std::function<QString(const QString& path, bool quiet)> toDrive;
+    // The 8.3 short form and the long form of an existing path; empty when it cannot be resolved.
+    std::function<QString(const QString& path)> toShort;
+    std::function<QString(const QString& path)> toLong;
+    // Whether short and long names differ here at all; without them the two are not offered.
+    bool shortNames = false;
 
     // The machine's own drives and mounts.
     static PathConverters system();
@@ -21,7 +26,7 @@ struct PathConverters {
     static PathConverters withMounts(QList<MountEntry> mounts);
 };
 
-enum class PathDirection { ToNetwork, ToDrive };
+enum class PathDirection { ToNetwork, ToDrive, ToShort, ToLong };
 
 struct PathConversion {
     bool converted = false;
@@ -33,6 +38,9 @@ struct PathConversion {
 // quotes (as a file manager's "copy as path" gives) are removed first. Error 5 becomes a message
 // and the unchanged path, as the quiet flag gives it.
 PathConversion convertPath(const QString& input, PathDirection direction, const PathConverters& converters);
+
+// Why the short (8.3) and long name forms are not offered on a system without short names.
+QString shortNamesUnavailableText();
 
 // The way a path most likely wants to go: a network path (two leading separators) to a drive,
 // every other path to the network.

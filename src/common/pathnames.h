@@ -9,4 +9,8 @@ namespace quenfor {
 QString shortPathName(const QString& path);
 QString longPathName(const QString& path);
 
+// Whether this system's file systems keep short names at all (Windows); elsewhere both forms are
+// the path itself.
+bool systemKeepsShortNames();
+
 } // namespace quenfor

@@ -10,4 +10,8 @@ QString longPathName(const QString& path) {
     return path;
 }
 
+bool systemKeepsShortNames() {
+    return false;
+}
+
 } // namespace quenfor

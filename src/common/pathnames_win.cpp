@@ -32,4 +32,8 @@ QString longPathName(const QString& path) {
     return convertedPath(path, &GetLongPathNameW);
 }
 
+bool systemKeepsShortNames() {
+    return true;
+}
+
 } // namespace quenfor

@@ -83,7 +83,7 @@ QString removeDuplicateLines(ConfigDocument& doc) {
     if (doc.isEmpty())
         return u"kein Inhalt"_s;
     doc.replaceAll(removeDuplicateLines(doc.lines()));
-    return u"lösche doppelte Einträge..."_s;
+    return QString::fromUtf16(kRemovingDuplicatesStatus);
 }
 
 namespace {

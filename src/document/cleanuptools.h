@@ -23,6 +23,8 @@ QString removeBlankLines(ConfigDocument& doc);
 // lines are never removed, since repeating them is meaningful.
 QStringList removeDuplicateLines(QStringList lines);
 QString removeDuplicateLines(ConfigDocument& doc);
+// The status line while duplicates are removed, also as the last step of the sort by category.
+inline constexpr char16_t kRemovingDuplicatesStatus[] = u"lösche doppelte Einträge...";
 
 // Sorts the option lines ascending, case-insensitively, in the locale's collation; mapkey,
 // comment and browser_favorite lines follow in their former order. The line that sorts first is

@@ -33,7 +33,12 @@ bool categorySortRefuses(const QString& fileName) {
     return kind == FamilyKind::SearchPro || kind == FamilyKind::Dtl || kind == FamilyKind::Pcf;
 }
 
-QStringList sortByCategory(const QStringList& lines, const CategoryTable& table) {
+QString categoryProgressText(int index) {
+    return u"Kategorie "_s + CategoryTable::names().value(index);
+}
+
+QStringList sortByCategory(const QStringList& lines, const CategoryTable& table,
+                           const std::function<void(int index)>& onCategory) {
     // Every string of every list is a slot; a line belongs to each slot whose string begins it.
     // Instead of testing every string against every line, look up each prefix of a line whose
     // length some string has.
@@ -69,6 +74,8 @@ QStringList sortByCategory(const QStringList& lines, const CategoryTable& table)
     QStringList result;
     result.reserve(lines.size() * 2 + CategoryTable::kCategoryCount + 1);
     for (int k = 1; k <= CategoryTable::kCategoryCount; ++k) {
+        if (onCategory)
+            onCategory(k);
         result.append(categoryHeader(k));
         for (int slot = slotStart[k]; slot < slotStart[k + 1]; ++slot) {
             for (int i : claimed[size_t(slot)])

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace quenfor {
 
 class CategoryTable;
@@ -13,7 +15,10 @@ class CategoryTable;
 // and the whole document again, and the duplicate removal keeps only the first copy of every
 // line: the last section holds exactly what no category claims (mapkeys, favourites, comments,
 // blank lines, unknown options) in document order.
-QStringList sortByCategory(const QStringList& lines, const CategoryTable& table);
+// `onCategory` is told each category index (1..31) as its section is written, so a window can show
+// which one is being processed.
+QStringList sortByCategory(const QStringList& lines, const CategoryTable& table,
+                           const std::function<void(int index)>& onCategory = {});
 
 // The header of category `index` (1..31).
 QString categoryHeader(int index);
@@ -23,6 +28,9 @@ QString categoryHeader(int index);
 bool categorySortRefuses(const QString& fileName);
 
 inline constexpr char16_t kCategorySortLastHeader[] = u"! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------";
+// lbl_kathi while a category's section is written: "Kategorie " and its name.
+QString categoryProgressText(int index);
+
 inline constexpr char16_t kCategorySortQuestion[] = u"Wollen Sie nun alle Einträge nach Themen sortieren ?";
 inline constexpr char16_t kCategorySortRefusedButton[] =
     u"Diese Funktion ist nur für config.pro und config.sup Dateien nutzbar ! (Mal im Ernst: was erwartest Du denn, "

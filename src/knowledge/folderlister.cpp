@@ -19,12 +19,14 @@ FolderListing QtFolderLister::list(const QString& path) const {
 #endif
     if (!listing.readable)
         return listing;
-    // Without QDir::Hidden the iterator skips hidden folders itself.
-    QDirIterator it(path, QDir::Dirs | QDir::NoDotAndDotDot);
+    QDirIterator it(path, QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden);
     while (it.hasNext()) {
         it.next();
         const QFileInfo entry = it.fileInfo();
-        listing.subfolders.append({entry.fileName(), entry.isSymLink() || entry.isJunction()});
+        if (entry.isHidden())
+            listing.hidden.append(entry.fileName());
+        else
+            listing.subfolders.append({entry.fileName(), entry.isSymLink() || entry.isJunction()});
     }
     return listing;
 }

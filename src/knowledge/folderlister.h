@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace quenfor {
 
@@ -19,6 +20,7 @@ struct FolderListing {
     bool isFolder = false;       // the path is an existing folder (links followed)
     bool readable = false;       // its entries could be read
     QList<SubFolder> subfolders; // visible subfolders in no particular order
+    QStringList hidden;          // names of the hidden subfolders left out, so the walk can name them
 };
 
 // Reads folders for the search.pro walk. Hidden folders (a leading "." on Unix, the hidden

@@ -40,7 +40,8 @@ public:
             entryPath.append('/');
         const qsizetype prefix = entryPath.size();
         while (const dirent* entry = ::readdir(dir)) {
-            if (entry->d_name[0] == '.') // ".", ".." and hidden folders
+            const bool hidden = entry->d_name[0] == '.';
+            if (hidden && (entry->d_name[1] == '\0' || (entry->d_name[1] == '.' && entry->d_name[2] == '\0')))
                 continue;
             unsigned char type = entry->d_type;
             bool linked = false;
@@ -56,7 +57,10 @@ public:
             } else if (type != DT_DIR) {
                 continue;
             }
-            listing.subfolders.append({QFile::decodeName(entry->d_name), linked});
+            if (hidden)
+                listing.hidden.append(QFile::decodeName(entry->d_name));
+            else
+                listing.subfolders.append({QFile::decodeName(entry->d_name), linked});
         }
         ::closedir(dir);
         return listing;

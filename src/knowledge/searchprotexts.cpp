@@ -32,6 +32,20 @@ QString searchProUnreadableText(const QStringList& unreadable) {
     return text;
 }
 
+QString searchProHiddenText(const QStringList& hidden) {
+    if (hidden.isEmpty())
+        return {};
+    if (hidden.size() == 1)
+        return u"Versteckt und daher nicht in der Liste (mit allen Unterverzeichnissen): \"%1\"."_s.arg(hidden.front());
+    constexpr qsizetype kNamed = 3;
+    QString text =
+        u"%1 versteckte Verzeichnisse sind mit allen Unterverzeichnissen nicht in der Liste: "_s.arg(hidden.size()) +
+        hidden.mid(0, kNamed).join(u"; "_s);
+    if (hidden.size() > kNamed)
+        text += u" …"_s;
+    return text;
+}
+
 QStringList searchProSaveInfoLines() {
     return {u"choose place for saving in the browser window !"_s, u"in this place you don´t save a file."_s,
             u"you can save the file when you end quenfor."_s};

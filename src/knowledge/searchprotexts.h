@@ -21,6 +21,10 @@ QString searchProTotalText(qsizetype count);
 // empty when every folder was read.
 QString searchProUnreadableText(const QStringList& unreadable);
 
+// The note that hidden folders (a leading "." on Unix, the hidden attribute on Windows) are not in
+// the list, naming the first few; empty when none was left out.
+QString searchProHiddenText(const QStringList& hidden);
+
 // "cmd_wodenn": the three lines telling where the file is saved.
 QStringList searchProSaveInfoLines();
 

@@ -80,6 +80,11 @@ SearchProWalkResult SearchProWalk::run(const QString& startFolder, const Progres
         return result;
     }
 
+    const auto noteHidden = [&result](const QString& folder, const QStringList& names) {
+        for (const QString& name : names)
+            result.hidden.append(joinFolderAndName(folder, name));
+    };
+    noteHidden(start, listing.hidden);
     QStringList& list = result.folders;
     std::vector<char> linked; // parallel to list
     Children current = childrenOf(start, std::move(listing.subfolders));
@@ -105,6 +110,7 @@ SearchProWalkResult SearchProWalk::run(const QString& startFolder, const Progres
             if (listing.isFolder) {
                 if (!listing.readable)
                     result.unreadable.append(entry);
+                noteHidden(entry, listing.hidden);
                 current = childrenOf(entry, std::move(listing.subfolders));
             }
         }
@@ -112,6 +118,8 @@ SearchProWalkResult SearchProWalk::run(const QString& startFolder, const Progres
     }
     if (progress)
         progress(list.size());
+    // A folder the walk had to list twice would otherwise name its hidden folders twice.
+    result.hidden.removeDuplicates();
     return result;
 }
 

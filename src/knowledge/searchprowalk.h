@@ -12,6 +12,7 @@ namespace quenfor {
 struct SearchProWalkResult {
     QStringList folders;    // native full paths in walk order
     QStringList unreadable; // folders whose subfolders could not be read, in walk order
+    QStringList hidden;     // hidden folders left out (with all below them), in walk order
     QString error;          // German, when the start folder is missing or unreadable
     bool cancelled = false; // the walk stopped early; folders holds what was found until then
 };
@@ -28,6 +29,8 @@ struct SearchProWalkResult {
 //   The program has always behaved so, and search.pro files made with it depend on it.
 // - A linked folder (symbolic link, junction) is listed but never walked into, so a link back up
 //   the tree cannot make the walk endless. An unreadable folder contributes nothing.
+// - Hidden folders are left out with everything below them; they are named in `hidden`, so the
+//   user learns what the list lacks.
 class SearchProWalk {
 public:
     // Gets the number of folders found so far, now and then during the walk and once at its end.

@@ -27,6 +27,14 @@ protected:
     }
 };
 
+TEST_F(SearchProCliTest, HiddenFoldersAreNamedOnStderr) {
+    ASSERT_TRUE(QDir(tree.path()).mkpath(u"A/.svn/tmp"_s));
+    const CliRun r = run({u"searchpro"_s, tree.path()});
+    EXPECT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, lines({u"A"_s, u"B"_s, u"Müller"_s, u"A/A1"_s, u"A/A2"_s, u"B/B1"_s}));
+    EXPECT_EQ(r.err, u"Versteckt, nicht aufgeführt: "_s + QDir::toNativeSeparators(tree.filePath(u"A/.svn"_s)) + u'\n');
+}
+
 TEST_F(SearchProCliTest, WritesTheListLikeASavedDocument) {
     const QByteArray expected = lines({u"A"_s, u"B"_s, u"Müller"_s, u"A/A1"_s, u"A/A2"_s, u"B/B1"_s});
     ASSERT_TRUE(expected.contains("M\xFCller\r\n")); // one byte for the umlaut: the code page, not UTF-8

@@ -18,6 +18,50 @@ PathConverters fedConverters() {
                                                       "nas:/export/projects /mnt/projects nfs4 rw 0 0\n"));
 }
 
+// Short and long names as a Windows volume would give them, for one existing path only.
+PathConverters namesConverters() {
+    PathConverters converters = fedConverters();
+    converters.shortNames = true;
+    converters.toShort = [](const QString& path) {
+        return path == u"C:\\Programme\\Langer Name"_s ? u"C:\\PROGRA~1\\LANGER~1"_s : QString();
+    };
+    converters.toLong = [](const QString& path) {
+        return path == u"C:\\PROGRA~1\\LANGER~1"_s ? u"C:\\Programme\\Langer Name"_s : QString();
+    };
+    return converters;
+}
+
+TEST(PathConversion, ShortAndLongNamesOfExistingPaths) {
+    const PathConverters converters = namesConverters();
+    PathConversion c = convertPath(u"\"C:\\Programme\\Langer Name\""_s, PathDirection::ToShort, converters);
+    EXPECT_TRUE(c.converted);
+    EXPECT_EQ(c.path, u"C:\\PROGRA~1\\LANGER~1"_s);
+    c = convertPath(u"C:\\PROGRA~1\\LANGER~1"_s, PathDirection::ToLong, converters);
+    EXPECT_EQ(c.path, u"C:\\Programme\\Langer Name"_s);
+    EXPECT_TRUE(c.message.isEmpty());
+
+    // A path the system cannot resolve stays, with the reason.
+    c = convertPath(u"C:\\weg"_s, PathDirection::ToShort, converters);
+    EXPECT_FALSE(c.converted);
+    EXPECT_EQ(c.path, u"C:\\weg"_s);
+    EXPECT_EQ(c.message, u"Den Pfad \"C:\\weg\" gibt es nicht, oder er kann nicht gelesen werden; kurze und lange "
+                         u"Namen haben nur vorhandene Dateien und Ordner. Er bleibt unverändert."_s);
+}
+
+TEST(PathConversion, WithoutShortNamesBothFormsSayWhy) {
+    PathConverters converters = namesConverters();
+    converters.shortNames = false;
+    for (const PathDirection direction : {PathDirection::ToShort, PathDirection::ToLong}) {
+        const PathConversion c = convertPath(u"C:\\Programme\\Langer Name"_s, direction, converters);
+        EXPECT_FALSE(c.converted);
+        EXPECT_EQ(c.path, u"C:\\Programme\\Langer Name"_s);
+        EXPECT_EQ(c.message, shortNamesUnavailableText());
+    }
+#ifndef Q_OS_WIN
+    EXPECT_FALSE(PathConverters::system().shortNames);
+#endif
+}
+
 TEST(PathConversion, ConvertsOrExplainsWhyNot) {
     const struct {
         const char* label;

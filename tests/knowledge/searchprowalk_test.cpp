@@ -164,7 +164,12 @@ TEST(SearchProWalk, HiddenFoldersAndFilesAreLeftOut) {
     t.folders({u".git/objects"_s, u"work/.svn"_s, u"work/parts"_s});
     t.file(u"work/.hidden.prt"_s);
     t.file(u"top.asm"_s);
-    EXPECT_EQ(SearchProWalk().run(t.root()).folders, t.paths({u"work"_s, u"work/parts"_s}));
+    const SearchProWalkResult r = SearchProWalk().run(t.root());
+    EXPECT_EQ(r.folders, t.paths({u"work"_s, u"work/parts"_s}));
+    // Named, so the user learns what the list lacks; what lies below a hidden folder is not looked at.
+    EXPECT_EQ(r.hidden, t.paths({u".git"_s, u"work/.svn"_s}));
+    const QtFolderLister qtLister;
+    EXPECT_EQ(SearchProWalk(qtLister).run(t.root()).hidden, r.hidden);
 }
 
 TEST(SearchProWalk, LinkedFoldersAreListedButNotEntered) {

@@ -11,10 +11,10 @@ class QPushButton;
 namespace quenfor {
 
 // frmPfadolin ("Pfad-Umwandlung"): turns a path on a network drive or under a network mount into
-// its network form and back, and copies the result to the clipboard. A path that cannot be
-// converted stays as it is, with a message in the window. The last path typed is kept in the
-// settings of "Pfadolin": read when the window is made, stored when it closes. It does not block
-// the main window.
+// its network form and back, an existing path into its short (8.3) or long form, and copies the result to the
+// clipboard. A path that cannot be converted stays as it is, with a message in the window. The last path typed is kept
+// in the settings of "Pfadolin": read when the window is made, stored when it closes. It does not block the main
+// window.
 class PathConverterWindow : public QDialog {
     Q_OBJECT
 
@@ -41,6 +41,9 @@ private:
     QLineEdit* m_path;
     QPushButton* m_toNetwork;
     QPushButton* m_toDrive;
+    QPushButton* m_toShort;
+    QPushButton* m_toLong;
+    QLabel* m_namesNote;
     QLineEdit* m_result;
     QPushButton* m_copy;
     QLabel* m_message;

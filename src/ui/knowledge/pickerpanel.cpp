@@ -49,7 +49,8 @@ PickerPanel::PickerPanel(QWidget* parent)
       m_sourceLabel(new QLabel(this)), m_cfg(makePickerList(u"List2cfg"_s)), m_dtl(makePickerList(u"List2dtl"_s)),
       m_pcf(makePickerList(u"List2pcf"_s)), m_addFrame(new QFrame(this)),
       m_allButton(new QPushButton(u"Übernehmen"_s, m_addFrame)), m_knowledge(new QToolButton(this)),
-      m_brain(new QLabel(this)), m_categorySort(new QToolButton(this)), m_searchProFrame(new QFrame(this)),
+      m_brain(new QLabel(this)), m_categorySort(new QToolButton(this)), m_categoryProgress(new QLabel(this)),
+      m_searchProFrame(new QFrame(this)),
       m_searchProButton(new QPushButton(u"search.pro Generator"_s, m_searchProFrame)),
       m_colorButton(new QPushButton(u"Farbe"_s, this)), m_explain(new QCheckBox(u"ErklärBär"_s, this)),
       m_knowledgeBase(new QLabel(this)), m_folderFrame(new QFrame(this)), m_folderLabel(new QLabel(m_folderFrame)),
@@ -62,6 +63,7 @@ PickerPanel::PickerPanel(QWidget* parent)
     m_knowledge->setObjectName(u"img_confopts"_s);
     m_brain->setObjectName(u"img_hirn"_s);
     m_categorySort->setObjectName(u"img_kathi"_s);
+    m_categoryProgress->setObjectName(u"lbl_kathi"_s);
     m_searchProFrame->setObjectName(u"frame_search_pro"_s);
     m_searchProButton->setObjectName(u"cmd_searchprogen"_s);
     m_colorButton->setObjectName(u"cmd_Color"_s);
@@ -87,7 +89,6 @@ PickerPanel::PickerPanel(QWidget* parent)
     optionLayout->setContentsMargins(0, 0, 0, 0);
     auto* categoryRow = new QHBoxLayout;
     categoryRow->addWidget(m_categories, 1);
-    categoryRow->addWidget(m_categorySort);
     optionLayout->addLayout(categoryRow);
     auto* addLayout = new QVBoxLayout(m_addFrame);
     addLayout->setContentsMargins(0, 0, 0, 0);
@@ -107,11 +108,15 @@ PickerPanel::PickerPanel(QWidget* parent)
     bearRow->addWidget(m_knowledge);
     bearRow->addWidget(m_explain, 1);
     bearRow->addWidget(m_brain);
+    // Outside Frame1, which a search.pro, .dtl or .pcf hides: the sort must be startable there
+    // to tell the user it does not apply.
+    bearRow->addWidget(m_categorySort);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(bearRow);
     layout->addWidget(m_optionFrame);
+    layout->addWidget(m_categoryProgress);
     layout->addWidget(m_sourceLabel);
     layout->addWidget(m_cfg, 1);
     layout->addWidget(m_dtl, 1);
@@ -246,6 +251,13 @@ QString PickerPanel::applyFamily(const FileFamily& family, const QString& dataFo
 void PickerPanel::selectCategory(int index) {
     m_categories->setCurrentIndex(index);
     filterByCategory(index);
+}
+
+void PickerPanel::showSortedCategory(int index) {
+    selectCategory(index);
+    m_categoryProgress->setText(categoryProgressText(index));
+    // The sort runs in one go on the user-interface thread; paint the label now, not after it.
+    m_categoryProgress->repaint();
 }
 
 QString PickerPanel::filterByCategory(int index) {

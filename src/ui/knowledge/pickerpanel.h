@@ -35,6 +35,8 @@ public:
     // returns kPickerSourceMissing when it does not exist; a category shows its strings.
     QString filterByCategory(int index);
     void selectCategory(int index);
+    // A step of the sort by category: the category selected and filtered, lbl_kathi naming it.
+    void showSortedCategory(int index);
 
     QListWidget* pickerList(const QString& objectName) const;
     QListWidget* visiblePicker() const;
@@ -83,6 +85,7 @@ private:
     QToolButton* m_knowledge;    // img_confopts
     QLabel* m_brain;             // img_hirn
     QToolButton* m_categorySort; // img_kathi
+    QLabel* m_categoryProgress;  // lbl_kathi
     QFrame* m_searchProFrame;    // frame_search_pro
     QPushButton* m_searchProButton;
     QPushButton* m_colorButton; // cmd_Color

@@ -126,6 +126,12 @@ void SearchProWindow::buildWidgets() {
     m_unreadable->setWordWrap(true);
     m_unreadable->setStyleSheet(u"color: #c00000;"_s);
     m_unreadable->hide();
+    // Hidden folders are left out on purpose; the note says which, so the list is not taken for all.
+    m_hidden = new QLabel(this);
+    m_hidden->setObjectName(u"lbl_hidden"_s);
+    m_hidden->setWordWrap(true);
+    m_hidden->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_hidden->hide();
 
     m_progressBar = new QProgressBar(this);
     m_progressBar->setObjectName(u"prg_walk"_s);
@@ -168,6 +174,7 @@ void SearchProWindow::buildWidgets() {
     right->addWidget(m_list, 1);
     right->addWidget(m_count);
     right->addWidget(m_unreadable);
+    right->addWidget(m_hidden);
     right->addLayout(progressRow);
     right->addLayout(buttons);
     right->addWidget(m_saveInfoText);
@@ -228,6 +235,9 @@ void SearchProWindow::generate() {
     m_count->clear();
     m_unreadable->clear();
     m_unreadable->hide();
+    m_hidden->clear();
+    m_hidden->setToolTip({});
+    m_hidden->hide();
     setRunning(true);
     showProgress();
 
@@ -277,6 +287,11 @@ void SearchProWindow::finishGeneration() {
         const QString unreadable = searchProUnreadableText(result.unreadable);
         m_unreadable->setText(unreadable);
         m_unreadable->setVisible(!unreadable.isEmpty());
+        m_hidden->setText(searchProHiddenText(result.hidden));
+        constexpr qsizetype kTipLines = 30; // a tree full of ".git" folders must not fill the screen
+        m_hidden->setToolTip(result.hidden.mid(0, kTipLines).join(u'\n') +
+                             (result.hidden.size() > kTipLines ? u"\n…"_s : QString()));
+        m_hidden->setVisible(!result.hidden.isEmpty());
         m_status->clear();
     }
     emit generationFinished();

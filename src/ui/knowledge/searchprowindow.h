@@ -90,6 +90,7 @@ private:
     QPushButton* m_generate = nullptr;
     QListView* m_list = nullptr;
     QLabel* m_count = nullptr;
+    QLabel* m_hidden = nullptr;
     QLabel* m_unreadable = nullptr;
     QProgressBar* m_progressBar = nullptr;
     QLabel* m_progressText = nullptr;

@@ -1,6 +1,7 @@
 // The option picker, the Erklär-Bär and the sort by category in the main window.
 #include "ui/main/mainwindow.h"
 
+#include "document/cleanuptools.h"
 #include "document/configdocument.h"
 #include "document/documentsearch.h"
 #include "document/pathmarker.h"
@@ -133,9 +134,11 @@ void MainWindow::sortByCategory(const QString& refusal) {
     }
     if (Dialogs::question(this, QString::fromUtf16(kCategorySortQuestion)) != Dialogs::Answer::Yes)
         return;
+    // Each category is selected in turn, so the combo and the picker stay on the last one.
     runWholeDocumentTool([this] {
-        m_document->replaceAll(quenfor::sortByCategory(m_document->lines(), CategoryTable::builtIn()));
-        return QString();
+        m_document->replaceAll(quenfor::sortByCategory(m_document->lines(), CategoryTable::builtIn(),
+                                                       [this](int index) { m_picker->showSortedCategory(index); }));
+        return QString::fromUtf16(kRemovingDuplicatesStatus);
     });
 }
 

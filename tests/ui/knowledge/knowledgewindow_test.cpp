@@ -204,6 +204,29 @@ private slots:
         QVERIFY(doc().lines().contains(u"! nicht zugeornete Schalter, Mapkeys, Favoriten : ----------"_s));
         QCOMPARE(doc().lines().last(), u"! Kommentar"_s);
         QCOMPARE(m_window->findChild<QLabel*>(u"lblnumber"_s)->text(), u"Nr."_s);
+        // Every category was selected in turn: the combo and the picker stay on the last one.
+        QCOMPARE(m_window->findChild<QComboBox*>(u"combo_kathegorie"_s)->currentText(), u"Zeichnung"_s);
+        QCOMPARE(picker()->item(0)->text(), u"! ZEICHNUNG"_s);
+        QCOMPARE(m_window->findChild<QLabel*>(u"lbl_kathi"_s)->text(), u"Kategorie Zeichnung"_s);
+        QCOMPARE(m_window->findChild<QLabel*>(u"lblstatus"_s)->text(), u"lösche doppelte Einträge..."_s);
+    }
+
+    void sortByCategoryRefusesOtherFamiliesVisibly() {
+        const QString refusal = u"Diese Funktion ist nur für config.pro und config.sup Dateien nutzbar ! (Mal im "
+                                u"Ernst: was erwartest Du denn, was da passiert ?!... ehrlich)"_s;
+        for (const QString& name : {u"search.pro"_s, u"din.dtl"_s, u"quen.pcf"_s}) {
+            writeFile(m_work.filePath(name), "zzz eins\r\ndisplay wireframe\r\n");
+            m_window = std::make_unique<MainWindow>();
+            m_window->startUp({m_work.filePath(name)});
+            m_window->show();
+            QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+            auto* button = m_window->findChild<QAbstractButton*>(u"img_kathi"_s);
+            QVERIFY2(button && button->isVisible(), qPrintable(name));
+            m_shown.clear();
+            QTest::mouseClick(button, Qt::LeftButton);
+            QCOMPARE(m_shown, QStringList{refusal});
+            QCOMPARE(doc().lines(), QStringList({u"zzz eins"_s, u"display wireframe"_s}));
+        }
     }
 };
 

@@ -97,6 +97,41 @@ private slots:
         QCOMPARE(child<QLabel>(window, u"lbl_meldung"_s)->text(), u"Das Ergebnis steht in der Zwischenablage."_s);
     }
 
+    void shortAndLongNamesWhereTheSystemKeepsThem() {
+        PathConverters converters = fedConverters();
+        converters.shortNames = true;
+        converters.toShort = [](const QString& path) {
+            return path == u"/a/Langer Name"_s ? u"/a/LANGER~1"_s : QString();
+        };
+        converters.toLong = [](const QString& path) {
+            return path == u"/a/LANGER~1"_s ? u"/a/Langer Name"_s : QString();
+        };
+        PathConverterWindow window(nullptr, converters);
+        window.show();
+        QVERIFY(!child<QLabel>(window, u"lbl_kurzlang"_s)->isVisible());
+        window.setPath(u"/a/Langer Name"_s);
+        click(window, u"cmd_kurz"_s);
+        QCOMPARE(window.result(), u"/a/LANGER~1"_s);
+        window.setPath(window.result());
+        click(window, u"cmd_lang"_s);
+        QCOMPARE(window.result(), u"/a/Langer Name"_s);
+    }
+
+    void withoutShortNamesTheFormsAreGreyedWithTheReason() {
+        PathConverters converters = fedConverters();
+        converters.shortNames = false;
+        PathConverterWindow window(nullptr, converters);
+        window.show();
+        for (const QString& name : {u"cmd_kurz"_s, u"cmd_lang"_s}) {
+            auto* button = child<QPushButton>(window, name);
+            QVERIFY(!button->isEnabled());
+            QCOMPARE(button->toolTip(), shortNamesUnavailableText());
+        }
+        auto* note = child<QLabel>(window, u"lbl_kurzlang"_s);
+        QVERIFY(note->isVisible());
+        QCOMPARE(note->text(), shortNamesUnavailableText());
+    }
+
     void theLastPathIsKeptUnderPfadolin() {
         {
             PathConverterWindow window(nullptr, fedConverters());

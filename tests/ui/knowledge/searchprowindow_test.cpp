@@ -3,8 +3,8 @@
 
 #include "document/configdocument.h"
 #include "knowledge/searchprotexts.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/knowledge/searchprowindow.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -24,7 +24,7 @@ namespace {
 // Every folder has two subfolders: only a cancel ends this walk.
 class EndlessLister : public FolderLister {
 public:
-    FolderListing list(const QString&) const override { return {true, true, {{u"x"_s, false}, {u"y"_s, false}}}; }
+    FolderListing list(const QString&) const override { return {true, true, {{u"x"_s, false}, {u"y"_s, false}}, {}}; }
     bool isFolder(const QString&) const override { return true; }
 };
 
@@ -34,8 +34,8 @@ public:
     explicit PartlyUnreadableLister(QString start) : m_start(std::move(start)) {}
     FolderListing list(const QString& path) const override {
         if (path == m_start)
-            return {true, true, {{u"offen"_s, false}, {u"gesperrt"_s, false}}};
-        return {true, !path.endsWith(u"gesperrt"_s), {}};
+            return {true, true, {{u"offen"_s, false}, {u"gesperrt"_s, false}}, {}};
+        return {true, !path.endsWith(u"gesperrt"_s), {}, {}};
     }
     bool isFolder(const QString&) const override { return true; }
 
@@ -208,6 +208,25 @@ private slots:
         auto* note = child<QLabel>(window, u"lbl_unreadable"_s);
         QVERIFY(note->isVisible());
         QCOMPARE(note->text(), searchProUnreadableText({native(m_tree, u"gesperrt"_s)}));
+    }
+
+    void hiddenFoldersLeftOutAreNamed() {
+        QTemporaryDir tree;
+        for (const QString& folder : {u"A/.svn"_s, u".git/objects"_s})
+            QVERIFY(QDir(tree.path()).mkpath(folder));
+        SearchProWindow window(tree.path());
+        window.show();
+        generateAndWait(window);
+        QCOMPARE(window.entries(), QStringList{native(tree, u"A"_s)});
+        auto* note = child<QLabel>(window, u"lbl_hidden"_s);
+        QVERIFY(note->isVisible());
+        QCOMPARE(note->text(), searchProHiddenText({native(tree, u".git"_s), native(tree, u"A/.svn"_s)}));
+        QVERIFY(note->text().startsWith(u"2 versteckte Verzeichnisse"_s));
+
+        // A tree without hidden folders shows no note, also after one with them.
+        window.setCurrentFolder(m_tree.path());
+        generateAndWait(window);
+        QVERIFY(!note->isVisible());
     }
 
     void vanishedStartFolderIsReported() {
