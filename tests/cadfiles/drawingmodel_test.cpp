@@ -173,7 +173,8 @@ TEST(DrawingModel, APipeIsRefusedWithoutWaitingForAWriter) {
         EXPECT_EQ(check.read, DrawingRead::NotAFile);
         EXPECT_FALSE(check.matches);
         EXPECT_TRUE(check.listedModels.isEmpty());
-        EXPECT_TRUE(drawingCheckNote(check).contains(u"keine gewöhnliche Datei"_s)) << drawingCheckNote(check).toStdString();
+        EXPECT_TRUE(drawingCheckNote(check).contains(u"keine gewöhnliche Datei"_s))
+            << drawingCheckNote(check).toStdString();
     }
 }
 #endif

@@ -12,13 +12,13 @@
 #include "document/mapkeysplitter.h"
 #include "document/pathmarker.h"
 #include "settings/mainsettings.h"
-#include "ui/widgets/dialogs.h"
-#include "ui/main/documentlistview.h"
-#include "ui/main/entrylinepanel.h"
 #include "ui/knowledge/pickerpanel.h"
-#include "ui/widgets/qtclipboard.h"
+#include "ui/main/documentlistview.h"
 #include "ui/main/documentundo.h"
+#include "ui/main/entrylinepanel.h"
 #include "ui/main/toolcolumn.h"
+#include "ui/widgets/dialogs.h"
+#include "ui/widgets/qtclipboard.h"
 
 #include <QAbstractButton>
 #include <QAction>

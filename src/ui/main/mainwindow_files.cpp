@@ -10,11 +10,11 @@
 #include "ui/knowledge/pickerpanel.h"
 #include "ui/main/colourpanel.h"
 #include "ui/main/documentprinter.h"
+#include "ui/main/documentundo.h"
 #include "ui/main/entrylinepanel.h"
 #include "ui/main/filechooserpanel.h"
 #include "ui/main/searchdialog.h"
 #include "ui/main/toolcolumn.h"
-#include "ui/main/documentundo.h"
 #include "ui/widgets/dialogs.h"
 #include "ui/widgets/programexit.h"
 

@@ -5,8 +5,8 @@
 #include "settings/mainsettings.h"
 #include "settings/settingsstore.h"
 #include "ui/main/mainwindow.h"
-#include "ui/widgets/toolwindow.h"
 #include "ui/widgets/dialogs.h"
+#include "ui/widgets/toolwindow.h"
 
 #include <QAbstractButton>
 #include <QAction>
