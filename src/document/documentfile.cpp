@@ -1,5 +1,6 @@
 #include "document/documentfile.h"
 
+#include "common/memorybudget.h"
 #include "common/regularfile.h"
 #include "document/linesplit.h"
 
@@ -224,6 +225,15 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         // A pipe or device is refused before it could block the read.
         result.error =
             opened == FileOpen::NotRegular ? fileOpenRefusalText(opened, path) : readErrorText(path, file, err);
+        return result;
+    }
+
+    // The lines take about three times the file's size, a tool's result as much again; under a
+    // memory limit that cannot hold them the reading is refused before anything is allocated.
+    constexpr qint64 kMemoryPerFileByte = 4;
+    if (const QString shortfall = memoryShortfallFor(file.size() * kMemoryPerFileByte); !shortfall.isEmpty()) {
+        ReadResult result;
+        result.error = u"%1: %2"_s.arg(nativePath(path), shortfall);
         return result;
     }
 
