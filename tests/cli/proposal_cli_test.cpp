@@ -1,5 +1,5 @@
 // "proposal" and "ghost" through the real quenfor-cli binary, as an administrator scripts a new
-// company config.pro: the built-in lines appended, the original lines and bytes untouched.
+// company config.pro: the built-in lines appended, the lines already there and their bytes untouched.
 #include "knowledge/proposal.h"
 
 #include "clitest.h"

@@ -1,5 +1,5 @@
 // The mapkey splitter on any entry line and any document: it never crashes, and when it places
-// a split the two parts hold exactly the characters of the original line.
+// a split the two parts hold exactly the characters of the line it was given.
 #include "fuzzinput.h"
 
 #include "document/configdocument.h"
