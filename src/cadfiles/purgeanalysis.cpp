@@ -180,7 +180,7 @@ struct NameSplit {
 
 NameSplit splitName(QStringView path) {
     QStringView rest = path;
-    if (rest.size() >= 2 && rest[1] == u':')
+    if (startsWithDrive(rest))
         rest = rest.mid(2);
     qsizetype end = rest.size();
     qsizetype extensionEnd = end;

@@ -6,10 +6,17 @@
 
 namespace quenfor {
 
+bool startsWithDrive(QStringView path) {
+    if (path.size() < 2 || path[1] != u':')
+        return false;
+    const char16_t c = path[0].unicode();
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
 PathParts splitPath(QStringView path, Separators separators) {
     PathParts parts;
     QStringView rest = path;
-    if (path.size() >= 2 && path[1] == u':') {
+    if (startsWithDrive(path)) {
         parts.drive = path.left(2).toString();
         rest = path.mid(2);
     }
