@@ -30,7 +30,7 @@ namespace quenfor {
 
 namespace {
 
-bool isReadableFolder(const QString& folder) {
+bool isReadableFavouriteFolder(const QString& folder) {
     const QFileInfo info(folder);
 #ifdef Q_OS_WIN
     return info.isDir() && info.isReadable();
@@ -68,7 +68,7 @@ FavoritesPanel::FavoritesPanel(QWidget* parent)
         m_folders->hideColumn(column);
     m_folders->setHeaderHidden(true);
     m_folders->setUniformRowHeights(true);
-    m_folders->setMinimumSize(260, 12 * fontMetrics().lineSpacing());
+    m_folders->setMinimumSize(260, 6 * fontMetrics().lineSpacing());
 
     m_path->setMinimumWidth(40 * fontMetrics().averageCharWidth());
     m_path->setClearButtonEnabled(true);
@@ -185,7 +185,7 @@ QString FavoritesPanel::name() const {
 }
 
 bool FavoritesPanel::showFolder(const QString& folder) {
-    if (folder.isEmpty() || !isReadableFolder(folder))
+    if (folder.isEmpty() || !isReadableFavouriteFolder(folder))
         return false;
     const QString clean = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     const int drive = driveIndexOf(clean);

@@ -90,7 +90,7 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
 
     // Room for a useful number of names even when the window is small.
     for (QListView* view : {m_folders, m_files})
-        view->setMinimumSize(200, 10 * fontMetrics().lineSpacing());
+        view->setMinimumSize(200, 6 * fontMetrics().lineSpacing());
 
     m_folderLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_folderLabel->setWordWrap(true);

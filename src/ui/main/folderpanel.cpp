@@ -35,7 +35,7 @@ FolderPanel::FolderPanel(QWidget* parent)
         m_tree->hideColumn(column);
     m_tree->setHeaderHidden(true);
     m_tree->setUniformRowHeights(true);
-    m_tree->setMinimumSize(320, 16 * fontMetrics().lineSpacing());
+    m_tree->setMinimumSize(320, 8 * fontMetrics().lineSpacing());
 
     m_chosen->setObjectName(u"lbl_dir"_s);
     m_chosen->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -11,6 +11,7 @@
 #include "ui/main/mainhints.h"
 #include "ui/main/tempdirpanel.h"
 #include "ui/main/toolcolumn.h"
+#include "ui/widgets/panelroom.h"
 #include "ui/widgets/statushints.h"
 
 #include <QAbstractButton>
@@ -19,6 +20,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -87,8 +90,18 @@ void MainWindow::buildLayout() {
     m_favorites = new FavoritesPanel(central);
     m_favorites->hide();
 
+    // The buttons scroll when a panel above leaves them too little height, so the window need
+    // not grow past a laptop's screen.
+    auto* toolScroller = new QScrollArea(central);
+    toolScroller->setObjectName(u"toolScroller"_s);
+    toolScroller->setFrameShape(QFrame::NoFrame);
+    toolScroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    toolScroller->setWidgetResizable(true);
+    toolScroller->setWidget(m_tools);
+    toolScroller->setFixedWidth(m_tools->sizeHint().width() + toolScroller->verticalScrollBar()->sizeHint().width());
+
     auto* middle = new QHBoxLayout;
-    middle->addWidget(m_tools);
+    middle->addWidget(toolScroller);
     middle->addWidget(m_centre, 1);
     middle->addWidget(m_picker);
 
@@ -101,6 +114,9 @@ void MainWindow::buildLayout() {
     layout->addWidget(m_favorites);
     layout->addLayout(middle, 1);
     setCentralWidget(central);
+    for (QWidget* panel :
+         {static_cast<QWidget*>(m_tempDir), static_cast<QWidget*>(m_colours), static_cast<QWidget*>(m_favorites)})
+        giveBackRoomWhenHidden(panel);
 
     m_number = makeLabel(u"lblnumber"_s, this);
     m_number->setMinimumWidth(70);

@@ -351,6 +351,30 @@ private slots:
         }
     }
 
+    // A panel opened above the list takes its room from the list and the button column: all of
+    // the window stays on a laptop's screen, and closing the panel gives back what it took.
+    void panelsFitTheScreenAndGiveTheirRoomBack() {
+        const int laptopHeight = 768 - 40 - 40;
+        m_window->resize(1000, 560);
+        QTRY_COMPARE(m_window->height(), 560);
+        const struct {
+            const char16_t* menuEntry;
+            const char16_t* closeButton;
+        } panels[] = {{u"mnuFavoriten", u"cmd_favoExit"},
+                      {u"mnuFarben", u"cmd_farben_schliessen"},
+                      {u"mnuTempVerzeichnis", u"cmd_tempdir_schliessen"}};
+        for (const auto& panel : panels) {
+            const QString name = QString::fromUtf16(panel.menuEntry);
+            action(name)->trigger();
+            QTest::qWait(50);
+            QVERIFY2(m_window->minimumSizeHint().height() <= laptopHeight,
+                     qPrintable(name + u": %1"_s.arg(m_window->minimumSizeHint().height())));
+            QVERIFY2(m_window->height() <= laptopHeight, qPrintable(name + u": %1"_s.arg(m_window->height())));
+            click(QString::fromUtf16(panel.closeButton));
+            QTRY_COMPARE(m_window->height(), 560);
+        }
+    }
+
     // Buttons that show only a symbol explain themselves where the pointer is.
     void everyButtonOfTheMainWindowHasATooltip() {
         QStringList bare;
