@@ -9,22 +9,23 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"Kauzblick"_s;
-const QString kSection = u"Optionen"_s;
-const QString kFolderKey = u"dir1"_s;
+const QString kCheckerApplication = u"Kauzblick"_s;
+const QString kCheckerSection = u"Optionen"_s;
+const QString kCheckerFolderKey = u"dir1"_s;
 const QString kDriveKey = u"drive1"_s;
 
 } // namespace
 
 DrawingCheckerSettings loadDrawingCheckerSettings() {
-    const SettingsStore store(kApplication);
-    return {store.value(kSection, kFolderKey, defaultFolder()), store.value(kSection, kDriveKey, defaultDrive())};
+    const SettingsStore store(kCheckerApplication);
+    return {store.value(kCheckerSection, kCheckerFolderKey, defaultFolder()),
+            store.value(kCheckerSection, kDriveKey, defaultDrive())};
 }
 
 bool storeDrawingCheckerSettings(const DrawingCheckerSettings& settings) {
-    SettingsStore store(kApplication);
-    const bool folderStored = store.setValue(kSection, kFolderKey, settings.folder);
-    return store.setValue(kSection, kDriveKey, settings.drive) && folderStored;
+    SettingsStore store(kCheckerApplication);
+    const bool folderStored = store.setValue(kCheckerSection, kCheckerFolderKey, settings.folder);
+    return store.setValue(kCheckerSection, kDriveKey, settings.drive) && folderStored;
 }
 
 } // namespace quenfor

@@ -11,9 +11,9 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"DrFegel"_s;
-const QString kSection = u"Optionen"_s;
-const QString kFolderKey = u"dir1"_s;
+const QString kPurgeApplication = u"DrFegel"_s;
+const QString kPurgeSection = u"Optionen"_s;
+const QString kPurgeFolderKey = u"dir1"_s;
 const QString kPatternsKey = u"txt_cleaningOptions"_s;
 
 } // namespace
@@ -27,15 +27,15 @@ QString PurgeSettings::defaultFolder() {
 }
 
 PurgeSettings PurgeSettings::load() {
-    const SettingsStore store(kApplication);
-    return {store.value(kSection, kFolderKey, defaultFolder()),
-            store.value(kSection, kPatternsKey, defaultCleaningPatterns())};
+    const SettingsStore store(kPurgeApplication);
+    return {store.value(kPurgeSection, kPurgeFolderKey, defaultFolder()),
+            store.value(kPurgeSection, kPatternsKey, defaultCleaningPatterns())};
 }
 
 bool PurgeSettings::save() const {
-    SettingsStore store(kApplication);
-    const bool folderSaved = store.setValue(kSection, kFolderKey, folder);
-    return store.setValue(kSection, kPatternsKey, cleaningPatterns) && folderSaved;
+    SettingsStore store(kPurgeApplication);
+    const bool folderSaved = store.setValue(kPurgeSection, kPurgeFolderKey, folder);
+    return store.setValue(kPurgeSection, kPatternsKey, cleaningPatterns) && folderSaved;
 }
 
 } // namespace quenfor

@@ -10,7 +10,7 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"Tastomat"_s;
+const QString kTastomatApplication = u"Tastomat"_s;
 const QString kOptions = u"Optionen"_s;
 const QString kParameters = u"Parameter"_s;
 
@@ -24,7 +24,7 @@ bool isRetiredDefault(const QString& id, const QStringList& actions) {
 } // namespace
 
 TastomatSettings loadTastomatSettings() {
-    const SettingsStore store(kApplication);
+    const SettingsStore store(kTastomatApplication);
     const BatchParameters defaults = defaultBatchParameters();
     TastomatSettings settings;
     settings.folder = store.value(kOptions, u"dir1"_s, defaultFolder());
@@ -54,7 +54,7 @@ TastomatSettings loadTastomatSettings() {
 }
 
 bool storeTastomatSettings(const TastomatSettings& settings) {
-    SettingsStore store(kApplication);
+    SettingsStore store(kTastomatApplication);
     bool ok = store.setValue(kOptions, u"dir1"_s, settings.folder);
     ok = store.setValue(kOptions, u"muster"_s, settings.patterns) && ok;
     ok = store.setValue(kOptions, u"vorlage"_s, settings.templateId) && ok;

@@ -13,7 +13,7 @@ namespace quenfor::cli {
 
 namespace {
 
-const QString kSynopsis = u"find [--no-subfolders] [--mask N] ORDNER MUSTER"_s;
+const QString kFindSynopsis = u"find [--no-subfolders] [--mask N] ORDNER MUSTER"_s;
 
 // Hits are written in blocks: a tree can hold hundreds of thousands of them.
 constexpr qsizetype kFlushSize = 64 * 1024;
@@ -52,7 +52,7 @@ std::optional<FindOptions> parseFindOptions(const CliArgs& args) {
 int runFindCommand(const CliArgs& args, const CliStreams& io) {
     const std::optional<FindOptions> options = parseFindOptions(args);
     if (!options)
-        return usage(io, kSynopsis);
+        return usage(io, kFindSynopsis);
 
     cFindFile finder;
     try {

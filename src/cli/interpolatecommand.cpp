@@ -11,7 +11,7 @@ namespace quenfor::cli {
 
 namespace {
 
-const QString kSynopsis = u"interpolate X1 Y1 X2 Y2 A"_s;
+const QString kInterpolateSynopsis = u"interpolate X1 Y1 X2 Y2 A"_s;
 
 // The window drops a character it does not take; a script gets told instead, so no value changes
 // behind its back.
@@ -34,7 +34,7 @@ int runInterpolateCommand(const CliArgs& args, const CliStreams& io) {
     }
     if (args.positional.size() != qsizetype(names.size()) || !args.flags.isEmpty() || args.inPlace || args.outFile ||
         args.kbFile)
-        return usage(io, kSynopsis);
+        return usage(io, kInterpolateSynopsis);
 
     std::array<QString, 5> fields;
     for (std::size_t i = 0; i < names.size(); ++i) {

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kFileDecimals = 6;
 
-QString notANumber(ColourChannel channel, const QString& text) {
+QString notAColourNumber(ColourChannel channel, const QString& text) {
     return u"%1: „%2“ ist keine Zahl."_s.arg(channelName(channel), text.trimmed());
 }
 
@@ -44,7 +44,7 @@ double rgbToPercent(int value) {
 ChannelValue parsePercent(ColourChannel channel, const QString& text) {
     const std::optional<double> value = parseDecimal(text);
     if (!value)
-        return {std::nullopt, notANumber(channel, text)};
+        return {std::nullopt, notAColourNumber(channel, text)};
     if (*value < 0 || *value > 100)
         return {std::nullopt, u"%1: Prozentwerte liegen zwischen 0 und 100."_s.arg(channelName(channel))};
     return {value, {}};
@@ -53,7 +53,7 @@ ChannelValue parsePercent(ColourChannel channel, const QString& text) {
 ChannelValue parseRgb(ColourChannel channel, const QString& text) {
     const std::optional<double> value = parseDecimal(text);
     if (!value)
-        return {std::nullopt, notANumber(channel, text)};
+        return {std::nullopt, notAColourNumber(channel, text)};
     if (*value < 0 || *value > 255 || *value != std::floor(*value))
         return {std::nullopt, u"%1: RGB-Werte sind ganze Zahlen von 0 bis 255."_s.arg(channelName(channel))};
     return {value, {}};

@@ -8,8 +8,8 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"shooter"_s;
-const QString kSection = u"Optionen"_s;
+const QString kShooterApplication = u"shooter"_s;
+const QString kShooterSection = u"Optionen"_s;
 const QString kKey = u"txt_kill"_s;
 
 } // namespace
@@ -19,11 +19,11 @@ QString defaultHuntPrefix() {
 }
 
 QString loadHuntPrefix() {
-    return SettingsStore(kApplication).value(kSection, kKey, defaultHuntPrefix());
+    return SettingsStore(kShooterApplication).value(kShooterSection, kKey, defaultHuntPrefix());
 }
 
 bool saveHuntPrefix(const QString& prefix) {
-    return SettingsStore(kApplication).setValue(kSection, kKey, prefix);
+    return SettingsStore(kShooterApplication).setValue(kShooterSection, kKey, prefix);
 }
 
 } // namespace quenfor

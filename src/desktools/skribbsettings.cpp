@@ -14,7 +14,7 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"Skribb"_s;
+const QString kSkribbApplication = u"Skribb"_s;
 const QString kOptions = u"Optionen"_s;
 // The check box was always read under one spelling and written under another; the Windows store
 // ignores case, so both name one value. Elsewhere the store is case-sensitive: we write one
@@ -26,7 +26,7 @@ constexpr int kMaxTimeoutSeconds = 300;
 } // namespace
 
 SkribbSettings loadSkribbSettings() {
-    const SettingsStore store(kApplication);
+    const SettingsStore store(kSkribbApplication);
     SkribbSettings settings;
     settings.folder = store.value(kOptions, u"dir1"_s, defaultFolder());
     // A drive as a root ("C:\\", "/"), as the file boxes name it.
@@ -40,7 +40,7 @@ SkribbSettings loadSkribbSettings() {
 }
 
 bool storeSkribbSettings(const SkribbSettings& settings) {
-    SettingsStore store(kApplication);
+    SettingsStore store(kSkribbApplication);
     bool ok = store.setValue(kOptions, u"dir1"_s, settings.folder);
     ok = store.setValue(kOptions, u"drive1"_s, settings.drive) && ok;
     ok = store.setValue(kOptions, u"Filter"_s, settings.filter) && ok;
@@ -50,19 +50,20 @@ bool storeSkribbSettings(const SkribbSettings& settings) {
 }
 
 QString translationEndpoint() {
-    const QString stored = SettingsStore(kApplication).value(kOptions, u"Uebersetzungsdienst"_s, QString()).trimmed();
+    const QString stored =
+        SettingsStore(kSkribbApplication).value(kOptions, u"Uebersetzungsdienst"_s, QString()).trimmed();
     return stored.isEmpty() ? QString::fromUtf16(kDefaultTranslationEndpoint) : stored;
 }
 
 int translationTimeoutSeconds() {
     bool ok = false;
     const int seconds =
-        SettingsStore(kApplication).value(kOptions, u"Uebersetzungszeitlimit"_s, QString()).trimmed().toInt(&ok);
+        SettingsStore(kSkribbApplication).value(kOptions, u"Uebersetzungszeitlimit"_s, QString()).trimmed().toInt(&ok);
     return ok && seconds >= 1 && seconds <= kMaxTimeoutSeconds ? seconds : kDefaultTranslationTimeoutSeconds;
 }
 
 QString skribbHelpPage() {
-    const QString stored = SettingsStore(kApplication).value(kOptions, u"Hilfeseite"_s, QString()).trimmed();
+    const QString stored = SettingsStore(kSkribbApplication).value(kOptions, u"Hilfeseite"_s, QString()).trimmed();
     return stored.isEmpty() ? joinFolderAndName(QDir::toNativeSeparators(programDataFolder()), u"skribb_hilfe.html")
                             : stored;
 }

@@ -8,8 +8,8 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"Zeit"_s;
-const QString kSection = u"Optionen"_s;
+const QString kWorkTimeApplication = u"Zeit"_s;
+const QString kWorkTimeSection = u"Optionen"_s;
 // The pause is read as "pause_min" and has always been written as "Pause_min"; the Windows store
 // does not tell the two apart, an INI file does, so reading tries the written spelling first.
 const QString kPauseWritten = u"Pause_min"_s;
@@ -35,23 +35,24 @@ QString weekKey(int day) {
 } // namespace
 
 WorkTimeSettings WorkTimeSettings::load() {
-    const SettingsStore store(kApplication);
+    const SettingsStore store(kWorkTimeApplication);
     WorkTimeSettings settings;
-    settings.day.pauseMinutes = store.value(kSection, kPauseWritten, store.value(kSection, kPauseRead, u"49"_s));
+    settings.day.pauseMinutes =
+        store.value(kWorkTimeSection, kPauseWritten, store.value(kWorkTimeSection, kPauseRead, u"49"_s));
     for (const DayKey& key : kDayKeys)
-        settings.day.*key.field = store.value(kSection, key.key, key.defaultValue);
+        settings.day.*key.field = store.value(kWorkTimeSection, key.key, key.defaultValue);
     for (int day = 0; day < kWorkDays; ++day)
-        settings.week[day] = store.value(kSection, weekKey(day), u"1"_s);
+        settings.week[day] = store.value(kWorkTimeSection, weekKey(day), u"1"_s);
     return settings;
 }
 
 bool WorkTimeSettings::save() const {
-    SettingsStore store(kApplication);
-    bool saved = store.setValue(kSection, kPauseWritten, day.pauseMinutes);
+    SettingsStore store(kWorkTimeApplication);
+    bool saved = store.setValue(kWorkTimeSection, kPauseWritten, day.pauseMinutes);
     for (const DayKey& key : kDayKeys)
-        saved = store.setValue(kSection, key.key, day.*key.field) && saved;
+        saved = store.setValue(kWorkTimeSection, key.key, day.*key.field) && saved;
     for (int i = 0; i < kWorkDays; ++i)
-        saved = store.setValue(kSection, weekKey(i), week[i]) && saved;
+        saved = store.setValue(kWorkTimeSection, weekKey(i), week[i]) && saved;
     return saved;
 }
 

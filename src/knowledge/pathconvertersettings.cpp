@@ -8,18 +8,18 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"Pfadolin"_s;
-const QString kSection = u"Optionen"_s;
+const QString kPathConverterApplication = u"Pfadolin"_s;
+const QString kPathConverterSection = u"Optionen"_s;
 const QString kPathKey = u"txt_pfad"_s;
 
 } // namespace
 
 QString loadConverterPath() {
-    return SettingsStore(kApplication).value(kSection, kPathKey, QString());
+    return SettingsStore(kPathConverterApplication).value(kPathConverterSection, kPathKey, QString());
 }
 
 bool storeConverterPath(const QString& path) {
-    return SettingsStore(kApplication).setValue(kSection, kPathKey, path);
+    return SettingsStore(kPathConverterApplication).setValue(kPathConverterSection, kPathKey, path);
 }
 
 } // namespace quenfor

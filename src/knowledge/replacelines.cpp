@@ -10,8 +10,8 @@ namespace quenfor {
 
 namespace {
 
-const QString kApplication = u"quenfor"_s;
-const QString kSection = u"Optionen"_s;
+const QString kReplaceApplication = u"quenfor"_s;
+const QString kReplaceSection = u"Optionen"_s;
 const QString kFindKey = u"txt_finde"_s;
 const QString kReplacementKey = u"txt_replace"_s;
 
@@ -47,15 +47,15 @@ int replaceInDocument(ConfigDocument& document, const QString& find, const QStri
 }
 
 ReplaceTexts loadReplaceTexts() {
-    const SettingsStore store(kApplication);
-    return {store.value(kSection, kFindKey, u"Suchbegriff eingeben"_s),
-            store.value(kSection, kReplacementKey, u"Ersatzbegriff eingeben"_s)};
+    const SettingsStore store(kReplaceApplication);
+    return {store.value(kReplaceSection, kFindKey, u"Suchbegriff eingeben"_s),
+            store.value(kReplaceSection, kReplacementKey, u"Ersatzbegriff eingeben"_s)};
 }
 
 bool storeReplaceTexts(const ReplaceTexts& texts) {
-    SettingsStore store(kApplication);
-    const bool findStored = store.setValue(kSection, kFindKey, texts.find);
-    const bool replacementStored = store.setValue(kSection, kReplacementKey, texts.replacement);
+    SettingsStore store(kReplaceApplication);
+    const bool findStored = store.setValue(kReplaceSection, kFindKey, texts.find);
+    const bool replacementStored = store.setValue(kReplaceSection, kReplacementKey, texts.replacement);
     return findStored && replacementStored;
 }
 

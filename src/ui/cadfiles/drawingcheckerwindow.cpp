@@ -46,7 +46,7 @@ struct DrawingCheckJob {
 namespace {
 
 // Often enough to look alive, seldom enough to cost nothing.
-constexpr int kProgressIntervalMs = 100;
+constexpr int kCheckProgressIntervalMs = 100;
 
 } // namespace
 
@@ -56,7 +56,7 @@ DrawingCheckerWindow::DrawingCheckerWindow(QWidget* parent)
     setObjectName(u"frm_drw_mdl_checker"_s);
     setWindowTitle(tr("drw_mdl_checker"));
     buildWidgets();
-    m_progressTimer->setInterval(kProgressIntervalMs);
+    m_progressTimer->setInterval(kCheckProgressIntervalMs);
     connect(m_progressTimer, &QTimer::timeout, this, &DrawingCheckerWindow::showProgress);
     restoreSettings();
     resize(820, 560);

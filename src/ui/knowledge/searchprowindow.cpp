@@ -44,7 +44,7 @@ struct SearchProJob {
 namespace {
 
 // Often enough to look alive, seldom enough to cost nothing.
-constexpr int kProgressIntervalMs = 100;
+constexpr int kWalkProgressIntervalMs = 100;
 
 } // namespace
 
@@ -55,7 +55,7 @@ SearchProWindow::SearchProWindow(const QString& startFolder, QWidget* parent, co
     setWindowTitle(tr("search.pro-Generator +Q+U+E+N+F+O+R+"));
     buildWidgets();
 
-    m_progressTimer->setInterval(kProgressIntervalMs);
+    m_progressTimer->setInterval(kWalkProgressIntervalMs);
     connect(m_progressTimer, &QTimer::timeout, this, &SearchProWindow::showProgress);
 
     setCurrentFolder(folderExists(startFolder) ? startFolder : QDir::homePath());

@@ -58,7 +58,8 @@ void MainWindow::connectUndo() {
     addActions({undo, redo});
     connect(undo, &QAction::triggered, this, [this] { setStatus(tr("Letzte Änderung zurückgenommen")); });
     connect(redo, &QAction::triggered, this, [this] { setStatus(tr("Änderung wiederhergestellt")); });
-    for (const auto& [name, action] : {std::pair{u"cmd_undo"_s, undo}, std::pair{u"cmd_redo"_s, redo}}) {
+    for (const auto& [name, bound] : {std::pair{u"cmd_undo"_s, undo}, std::pair{u"cmd_redo"_s, redo}}) {
+        QAction* action = bound; // a lambda cannot capture a structured binding in every compiler
         QAbstractButton* button = m_tools->button(name);
         if (!button)
             continue;
