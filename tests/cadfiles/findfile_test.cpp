@@ -2,7 +2,6 @@
 #include "cadfiles/findfile.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -257,10 +256,9 @@ TEST_F(FindFileTest, LinkLoopsEndAndEveryFolderIsSearchedOnce) {
     EXPECT_EQ(found.size(), 3) << found.join(u", "_s).toStdString();
 }
 
-TEST_F(FindFileTest, ADeepFolderChainTakesTimeInProportionToItsDepth) {
-    // 1200 levels of one-letter folders: a search that resolved every folder's full path component
-    // by component took many seconds here (the cube of the depth); one status call per folder
-    // keeps it well below a second.
+TEST_F(FindFileTest, ADeepFolderChainIsSearchedToTheBottom) {
+    // 1200 levels of one-letter folders: the file at the bottom is found, every level is asked about.
+    // How long it takes is measured by `purge_bench deepfind` (bench/README.md).
     constexpr int kLevels = 1200;
     const int rootFd = ::open(QFile::encodeName(root()).constData(), O_RDONLY | O_DIRECTORY);
     ASSERT_GE(rootFd, 0);
@@ -277,16 +275,12 @@ TEST_F(FindFileTest, ADeepFolderChainTakesTimeInProportionToItsDepth) {
     ::close(bottom);
     ::close(fd);
 
-    QElapsedTimer clock;
-    clock.start();
     const QStringList found = search(u"tief.prt*"_s);
-    const qint64 elapsed = clock.elapsed();
     QString expected;
     for (int level = 0; level < kLevels; ++level)
         expected += u"k/"_s;
     EXPECT_EQ(found, QStringList{expected + u"tief.prt.1"_s});
     EXPECT_EQ(m_stopQuestions, kLevels);
-    EXPECT_LT(elapsed, 3000) << "ms for " << kLevels << " levels";
 }
 
 TEST_F(FindFileTest, UnreadableFolderYieldsNothingAndIsReported) {

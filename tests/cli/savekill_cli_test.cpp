@@ -16,9 +16,9 @@ namespace {
 
 QByteArray bigConfig() {
     QByteArray text;
-    text.reserve(12 * 1024 * 1024);
-    for (int i = 0; i < 160000; ++i) {
-        text += "Option_" + QByteArray::number((i * 7919) % 160000) + " C:\\Projekte\\Baugruppe_" +
+    text.reserve(4 * 1024 * 1024);
+    for (int i = 0; i < 60000; ++i) {
+        text += "Option_" + QByteArray::number((i * 7919) % 60000) + " C:\\Projekte\\Baugruppe_" +
                 QByteArray::number(i) + "\\Teile ";
         text += (i % 3 == 0) ? "YES\r\n" : "\xe4nderung\r\n"; // code page bytes must survive too
     }
@@ -53,7 +53,7 @@ TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
     int killed = 0;
     int sawOld = 0;
     int sawNew = 0;
-    for (int attempt = 0; killed < 50 && attempt < 400; ++attempt) {
+    for (int attempt = 0; killed < 25 && attempt < 200; ++attempt) {
         write(u"config.pro"_s, oldBytes);
         QProcess process;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -75,7 +75,7 @@ TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
         for (const QString& name : QDir(dir.path()).entryList({u"config.pro?*"_s}, QDir::Files))
             QFile::remove(path(name));
     }
-    EXPECT_EQ(killed, 50);
+    EXPECT_EQ(killed, 25);
     // Kills both before and after the rename: otherwise the timing did not cover the save.
     EXPECT_GT(sawOld, 0);
     EXPECT_GT(sawNew, 0);
