@@ -28,22 +28,21 @@ endfunction()
 # AddressSanitizer + UndefinedBehaviorSanitizer for the whole build (the CI runs the test suite
 # once this way). Any finding stops the program, so a test cannot pass over it.
 option(QUENFOR_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
-if(QUENFOR_SANITIZE)
+# libFuzzer harnesses (tests/fuzz) need clang. They run under the same sanitizers, and the whole
+# tree carries libFuzzer's coverage marks (the precompiled headers must match every file that
+# uses them). Together with QUENFOR_SANITIZE one tree serves the tests and the fuzzers, so the CI
+# compiles every file once.
+option(QUENFOR_FUZZ "Build the libFuzzer harnesses (needs clang)" OFF)
+if(QUENFOR_SANITIZE OR QUENFOR_FUZZ)
     target_compile_options(quenfor_options INTERFACE
         -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(quenfor_options INTERFACE -fsanitize=address,undefined)
 endif()
-
-# libFuzzer harnesses (tests/fuzz) need clang; everything they link is instrumented for coverage
-# and built with the same sanitizers.
-option(QUENFOR_FUZZ "Build the libFuzzer harnesses (needs clang)" OFF)
 if(QUENFOR_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         message(FATAL_ERROR "QUENFOR_FUZZ needs clang: configure with -DCMAKE_CXX_COMPILER=clang++")
     endif()
-    target_compile_options(quenfor_options INTERFACE
-        -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
-    target_link_options(quenfor_options INTERFACE -fsanitize=address,undefined)
+    target_compile_options(quenfor_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # Precompiled Qt and standard headers: most of a file's compile time is spent in them. Two sets,

@@ -11,10 +11,13 @@ seconds="${1:-20}"
 shift || true
 build="${QUENFOR_FUZZ_BUILD_DIR:-$root/build-fuzz}"
 
-launcher=()
-command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DQUENFOR_FUZZ=ON -DBUILD_TESTING=OFF -DQUENFOR_BUILD_BENCH=OFF -DQUENFOR_WERROR=ON "${launcher[@]}" >/dev/null
+# A tree that already builds the fuzzers (the test run's sanitizer tree) is used as it is.
+if ! grep -qx 'QUENFOR_FUZZ:BOOL=ON' "$build/CMakeCache.txt" 2>/dev/null; then
+    launcher=()
+    command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+        -DQUENFOR_FUZZ=ON -DBUILD_TESTING=OFF -DQUENFOR_BUILD_BENCH=OFF -DQUENFOR_WERROR=ON "${launcher[@]}" >/dev/null
+fi
 cmake --build "$build" -j "$(nproc)" --target quenfor_fuzzers
 
 harnesses=("$@")
