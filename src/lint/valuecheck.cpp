@@ -58,7 +58,7 @@ void checkOptionValues(const std::vector<LintLine>& lines, const NameIndex& name
     // The rule of each name is looked up once; the suggestion once for each wrong value of a name.
     std::vector<const ValueRule*> ruleOf(size_t(names.size()), nullptr);
     std::vector<bool> looked(size_t(names.size()), false);
-    QHash<QString, QString> suggestions; // name id, a tab and the value in lower case
+    std::vector<QHash<QString, QString>> suggestions(size_t(names.size())); // by value in lower case
     for (const LintLine& l : lines) {
         if (!hasValue(l))
             continue;
@@ -73,10 +73,11 @@ void checkOptionValues(const std::vector<LintLine>& lines, const NameIndex& name
         const QStringView word = checkedValueWord(l.value);
         if (word.isEmpty() || rule->allows(word))
             continue;
-        const QString key = QString::number(l.nameId) + u'\t' + word.toString().toLower();
-        auto suggestion = suggestions.constFind(key);
-        if (suggestion == suggestions.constEnd())
-            suggestion = suggestions.insert(key, rule->suggestionFor(word));
+        QHash<QString, QString>& known = suggestions[id];
+        const QString key = word.toString().toLower();
+        auto suggestion = known.constFind(key);
+        if (suggestion == known.constEnd())
+            suggestion = known.insert(key, rule->suggestionFor(word));
         addFinding(findings, l, FindingKind::InvalidValue, valueText(l.name, word, *rule, *suggestion));
     }
 }

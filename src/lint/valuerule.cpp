@@ -38,7 +38,7 @@ ValueRule ValueRule::of(const OptionFact& fact) {
         if (const std::optional<double> number = numberOf(lower))
             rule.m_numbers.push_back(*number);
         else if (isKeyword(lower))
-            rule.m_words.insert(lower);
+            rule.m_words.append(lower);
         else
             return rule; // a placeholder such as <path> or free text: nothing to compare with
     }
@@ -60,13 +60,9 @@ bool ValueRule::allows(QStringView word) const {
         if (const std::optional<double> number = numberOf(word))
             return std::find(m_numbers.begin(), m_numbers.end(), *number) != m_numbers.end();
     }
-    if (m_words.isEmpty())
-        return false;
-    // Nearly every value is already in lower case; only the others pay for the copy.
-    if (m_words.contains(word.toString()))
-        return true;
-    const QString lower = word.toString().toLower();
-    return lower != word && m_words.contains(lower);
+    return std::any_of(m_words.begin(), m_words.end(), [word](const QString& listed) {
+        return word.size() == listed.size() && word.compare(listed, Qt::CaseInsensitive) == 0;
+    });
 }
 
 QString ValueRule::suggestionFor(QStringView word) const {

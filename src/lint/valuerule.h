@@ -3,7 +3,6 @@
 #include "knowledge/optionfacts.h"
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -36,8 +35,8 @@ public:
 
 private:
     ValueShape m_shape = ValueShape::Unchecked;
-    QStringList m_listed;  // as the facts list them
-    QSet<QString> m_words; // the keywords in lower case
+    QStringList m_listed; // as the facts list them
+    QStringList m_words;  // the keywords in lower case; few, so a scan beats hashing a copy
     std::vector<double> m_numbers;
 };
 
