@@ -1,5 +1,6 @@
 // Target: "Prüfen" of a 1,000,000-line config.pro within 2 s, from memory (the view) and from
-// disk (quenfor-cli lint). Two files: one written like a company's config (real option names, 2 %
+// disk (quenfor-cli lint), values checked against the allowed values, and once more against a
+// target release. Two files: one written like a company's config (real option names, 2 %
 // of them misspelt, mapkeys, comments, a few long lines and changed values), and the generated
 // file of the other benchmarks, whose invented names are nearly all unknown, so the suggestion
 // is worked out for some 150,000 different names: the worst case for "meinten Sie ...?".
@@ -122,6 +123,19 @@ void BM_LintCompanyConfig(benchmark::State& state) {
     lintInMemory(state, companyLines());
 }
 
+// With a target release every option line is also looked up in the release lists.
+void BM_LintCompanyConfigForRelease(benchmark::State& state) {
+    quenfor::LintOptions withRelease = options();
+    withRelease.release = u"CP6"_s;
+    qsizetype findings = 0;
+    for (auto _ : state) {
+        const quenfor::LintResult result = quenfor::lintLines(companyLines(), u"config.pro"_s, withRelease);
+        findings = result.findings.size();
+        benchmark::DoNotOptimize(findings);
+    }
+    state.counters["findings"] = double(findings);
+}
+
 void BM_LintGeneratedConfig(benchmark::State& state) {
     lintInMemory(state, generatedLines());
 }
@@ -148,5 +162,6 @@ void BM_LintCompanyFile(benchmark::State& state) {
 
 BENCHMARK(BM_LintCompanyConfig)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_LintCompanyFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LintCompanyConfigForRelease)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_LintGeneratedConfig)->Unit(benchmark::kMillisecond);
 BENCHMARK_MAIN();

@@ -43,12 +43,12 @@ std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
                 return e;
         } else if (a.startsWith(u"--codepage=")) {
             out.codepage = a.mid(11);
-        } else if (a == u"--mask") {
+        } else if (a == u"--mask" || a == u"--release") {
             // Its value goes with it wherever the option stands, so it is never taken for a word.
             std::optional<QString> value;
             if (auto e = takeValue(value))
                 return e;
-            out.flags.append(u"--mask="_s + *value);
+            out.flags.append(a + u'=' + *value);
         } else {
             out.flags.append(a);
         }

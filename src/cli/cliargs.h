@@ -19,7 +19,7 @@ struct CliArgs {
     bool help = false;
     bool version = false;
     // Command-specific flags such as -r, -n, kept for the command to check; "--mask N" comes as
-    // "--mask=N".
+    // "--mask=N", "--release NAME" as "--release=NAME".
     QStringList flags;
 };
 

@@ -2,9 +2,11 @@
 
 #include "cli/documentio.h"
 #include "common/programfolders.h"
+#include "knowledge/optionreleases.h"
 #include "lint/linter.h"
 
 #include <map>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -13,20 +15,35 @@ namespace quenfor::cli {
 namespace {
 
 constexpr char16_t kCheckPaths[] = u"--check-paths";
+constexpr char16_t kRelease[] = u"--release=";
+constexpr char16_t kSynopsis[] = u"lint [--check-paths] [--release NAME] DATEI...";
 
 } // namespace
 
 int runLintCommand(const CliArgs& args, const CliStreams& io) {
-    const bool badFlag =
-        std::any_of(args.flags.begin(), args.flags.end(), [](const QString& f) { return f != kCheckPaths; });
-    if (args.positional.isEmpty() || badFlag || args.inPlace || args.outFile)
-        return usage(io, u"lint [--check-paths] DATEI..."_s);
-
     LintOptions options;
+    std::optional<QString> release;
+    bool badFlag = false;
+    for (const QString& flag : args.flags) {
+        if (flag == kCheckPaths)
+            options.checkPaths = true;
+        else if (flag.startsWith(kRelease) && !release)
+            release = flag.mid(QStringView(kRelease).size());
+        else
+            badFlag = true;
+    }
+    if (args.positional.isEmpty() || badFlag || args.inPlace || args.outFile)
+        return usage(io, QString::fromUtf16(kSynopsis));
+    if (release) {
+        if (!cadReleaseIndex(*release)) {
+            io.message(u"Unbekannte Version \"%1\" – bekannt sind: %2"_s.arg(*release, cadReleaseNames()));
+            return kUsage;
+        }
+        options.release = *release;
+    }
     options.dataFolder = args.dataDir.value_or(programDataFolder());
     options.knowledgeBase = args.kbFile.value_or(QString());
     options.encoding = encodingChoiceFor(args);
-    options.checkPaths = args.flags.contains(QString::fromUtf16(kCheckPaths));
 
     int status = kOk;
     std::map<FamilyKind, LintRules> rulesOf; // read the lists once per family, not once per file
@@ -60,7 +77,7 @@ int runLintCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 QString lintCommandHelp() {
-    return u"quenfor-cli lint [--check-paths] DATEI...\n"
+    return u"quenfor-cli lint [--check-paths] [--release NAME] DATEI...\n"
            "  Prüft Konfigurationsdateien und gibt je Befund eine Zeile \"DATEI:ZEILE: Meldung\" aus.\n"
            "  Die Zeilen zählen wie in der Liste des Fensters (Zeilenende CR LF oder CR).\n"
            "  Geprüft werden: Optionsnamen, die keine Liste kennt (mit Vorschlag \"meinten Sie ...?\";\n"
@@ -69,11 +86,23 @@ QString lintCommandHelp() {
            "  sind (außer wiederholbaren wie search_path, mapkey, browser_favorite), Zeilen mit\n"
            "  Unix-Zeilenenden; in einer search.pro doppelte Verzeichnisse, ein doppeltes \"\\\" im Pfad\n"
            "  und Pfade mit Leerzeichen ohne Anführungszeichen.\n"
-           "  --check-paths  search.pro: auch melden, welche Verzeichnisse es nicht gibt (Pfade mit\n"
-           "                 Umgebungsvariablen wie $PRO_DIRECTORY bleiben ungeprüft)\n"
+           "  Werte (config.pro, config.sup): ein Wert, der nicht unter den erlaubten Werten der Option\n"
+           "  steht, ist ein Befund (mit Vorschlag). Groß- und Kleinschreibung zählt nicht; Zahlen\n"
+           "  werden als Zahlen verglichen (2 = 2.0); bei Optionen mit mehreren Wörtern nur das erste.\n"
+           "  Werte, für die es keine Auswahl gibt (Zahlen, Pfade, freier Text), bleiben ungeprüft,\n"
+           "  ebenso Werte in Anführungszeichen und mit Umgebungsvariablen.\n"
+           "  --check-paths   search.pro: auch melden, welche Verzeichnisse es nicht gibt (Pfade mit\n"
+           "                  Umgebungsvariablen wie $PRO_DIRECTORY bleiben ungeprüft)\n"
+           "  --release NAME  config.pro, config.sup, .dtl: auch melden, welche Optionen die Version\n"
+           "                  NAME nicht kennt oder nur als versteckte (nicht dokumentierte) Option\n"
+           "                  liest. NAME: "_s +
+           cadReleaseNames() +
+           u"\n"
+           "                  (WF4 = Wildfire 4.0, CEP5 = Creo Elements/Pro 5.0, CP6 = Creo Parametric 6.0).\n"
+           "                  Im Fenster gilt dafür die Einstellung \"Zielversion\".\n"
            "  Die Art einer Datei folgt aus ihrem Namen wie im Fenster; DATEI - liest stdin.\n"
            "  Exit-Status 0 ohne Befund, 1 bei Befunden oder wenn eine DATEI nicht lesbar ist,\n"
-           "  2 bei fehlerhaftem Aufruf.\n"_s;
+           "  2 bei fehlerhaftem Aufruf (auch bei unbekannter Version).\n"_s;
 }
 
 } // namespace quenfor::cli

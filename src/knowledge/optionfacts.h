@@ -22,6 +22,8 @@ public:
     // Option names are compared without regard to case, as the CAD system reads them.
     const OptionFact* find(QStringView optionName) const;
     qsizetype size() const { return m_facts.size(); }
+    // Every option with facts, in lower case, in no particular order.
+    QStringList names() const { return m_facts.keys(); }
 
 private:
     QHash<QString, OptionFact> m_facts;

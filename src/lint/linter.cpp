@@ -1,5 +1,6 @@
 #include "lint/linter.h"
 
+#include "knowledge/optionreleases.h"
 #include "lint/conflictingvaluecheck.h"
 #include "lint/doubledbackslashcheck.h"
 #include "lint/lintline.h"
@@ -9,14 +10,18 @@
 #include "lint/nameindex.h"
 #include "lint/namesuggester.h"
 #include "lint/quotingcheck.h"
+#include "lint/releasecheck.h"
 #include "lint/repeatedfoldercheck.h"
 #include "lint/unixlineendcheck.h"
 #include "lint/unknownoptioncheck.h"
+#include "lint/valuecheck.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace quenfor {
 
@@ -35,8 +40,16 @@ LintResult lintLines(const QStringList& lines, const QString& fileName, const Li
     const bool searchPro = rules.family == FamilyKind::SearchPro;
     const bool namesChecked = rules.known.has_value();
     const bool valuesCompared = rules.repeatable.has_value() && !searchPro;
+    const bool valuesChecked = rules.values != nullptr;
+    std::optional<int> release;
+    if (!options.release.isEmpty() && rules.releases) {
+        release = cadReleaseIndex(options.release);
+        if (!release)
+            result.notes.append(u"Die Zielversion \"%1\" ist unbekannt (bekannt sind %2): Optionen werden nicht gegen "
+                                "eine Version geprüft."_s.arg(options.release, cadReleaseNames()));
+    }
     std::optional<NameIndex> names;
-    if (namesChecked || valuesCompared)
+    if (namesChecked || valuesCompared || valuesChecked || release)
         names.emplace(parsed);
 
     using Check = std::function<void(QList<LintFinding>&)>;
@@ -52,6 +65,10 @@ LintResult lintLines(const QStringList& lines, const QString& fileName, const Li
     }
     if (valuesCompared)
         checks.push_back([&](auto& out) { checkConflictingValues(parsed, *names, *rules.repeatable, out); });
+    if (valuesChecked)
+        checks.push_back([&](auto& out) { checkOptionValues(parsed, *names, *rules.values, out); });
+    if (release)
+        checks.push_back([&](auto& out) { checkReleaseOptions(parsed, *names, *rules.releases, *release, out); });
     if (searchPro) {
         checks.push_back([&](auto& out) { checkRepeatedFolders(parsed, out); });
         checks.push_back([&](auto& out) { checkDoubledBackslashes(parsed, out); });

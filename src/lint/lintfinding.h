@@ -17,6 +17,9 @@ enum class FindingKind {
     DoubledBackslash, // search.pro: "\\" inside a path
     Quoting,          // search.pro: blanks without quotes, or quotes that do not close the path
     MissingFolder,    // search.pro: the folder does not exist
+    InvalidValue,     // a value outside the option's allowed values
+    UnknownInRelease, // the chosen release does not know the option
+    HiddenInRelease,  // the chosen release reads the option without documenting it
 };
 
 // One fault found in a file: where it is and what is wrong, in German for the user.

@@ -33,6 +33,14 @@ LintLine makeLine(QStringView text, int line, int piece) {
 
 } // namespace
 
+bool namesAnOption(const LintLine& l) {
+    if (l.nameId < 0) // a line of tabs and blanks, which the CAD system passes over
+        return false;
+    if (l.kind == LineKind::Option)
+        return true;
+    return l.kind == LineKind::Mapkey && l.name != u"mapkey" && l.name != u"mapkey(continued)";
+}
+
 QStringView withoutTrailingBlanks(QStringView text) {
     qsizetype end = text.size();
     while (end > 0 && isOptionBlank(text[end - 1]))

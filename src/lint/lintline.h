@@ -31,6 +31,11 @@ inline bool isOptionBlank(QChar c) {
     return c == u' ' || c == u'\t';
 }
 
+// Whether the line sets an option whose name the checks look at. A mapkey head names no option;
+// anything else that the line kinds call a mapkey (a word that merely begins with "mapkey") is
+// checked like any option. Needs the line's nameId.
+bool namesAnOption(const LintLine& l);
+
 // The text without the blanks at its end.
 QStringView withoutTrailingBlanks(QStringView text);
 

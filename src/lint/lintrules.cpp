@@ -3,8 +3,10 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "knowledge/categories.h"
+#include "knowledge/optionreleases.h"
 #include "knowledge/picker.h"
 #include "lint/namelist.h"
+#include "lint/valuerule.h"
 
 #include <QDir>
 
@@ -96,6 +98,12 @@ LintRules loadLintRules(const FileFamily& family, const LintOptions& options) {
     else
         rules.notes.append(u"Der Dateiname zeigt keine bekannte Art (.pro, .sup, .dtl, .pcf, search.pro): "
                            "Optionsnamen werden nicht geprüft."_s);
+    if (family.kind == FamilyKind::Config) {
+        rules.values = &ValueRules::builtIn();
+        rules.releases = &OptionReleases::config();
+    } else if (family.kind == FamilyKind::Dtl) {
+        rules.releases = &OptionReleases::drawingSetup();
+    }
     loadRepeatable(rules, options);
     return rules;
 }

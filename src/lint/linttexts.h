@@ -8,8 +8,9 @@ namespace quenfor {
 // The texts of the "Prüfen" view and of the command that share them.
 inline constexpr char16_t kLintCaption[] = u"Prüfen";
 inline constexpr char16_t kLintButtonHint[] =
-    u"Prüfen: unbekannte Optionen, unterbrochene Mapkeys, zu lange Zeilen, widersprüchliche Werte und "
-    u"Pfade der search.pro";
+    u"Prüfen: unbekannte Optionen, nicht erlaubte Werte, unterbrochene Mapkeys, zu lange Zeilen, "
+    u"widersprüchliche Werte, Pfade der search.pro und, mit einer Zielversion, Optionen, die diese Version "
+    u"nicht kennt oder versteckt";
 inline constexpr char16_t kLintRecheck[] = u"Neu prüfen";
 inline constexpr char16_t kLintRecheckHint[] = u"Prüft die Liste noch einmal.";
 inline constexpr char16_t kLintCancel[] = u"Abbrechen";

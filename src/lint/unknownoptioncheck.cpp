@@ -22,16 +22,6 @@ QString unknownText(FamilyKind family, QStringView name) {
     }
 }
 
-// A mapkey head names no option; anything else that the line kinds call a mapkey (a word that
-// merely begins with "mapkey") is checked like any option.
-bool namesAnOption(const LintLine& l) {
-    if (l.nameId < 0) // a line of tabs and blanks, which the CAD system passes over
-        return false;
-    if (l.kind == LineKind::Option)
-        return true;
-    return l.kind == LineKind::Mapkey && l.name != u"mapkey" && l.name != u"mapkey(continued)";
-}
-
 } // namespace
 
 void checkUnknownOptions(const std::vector<LintLine>& lines, const NameIndex& names, FamilyKind family,

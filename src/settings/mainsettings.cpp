@@ -19,10 +19,10 @@ struct Entry {
     SettingDefinition definition;
 };
 
-const std::array<Entry, 7>& table() {
+const std::array<Entry, 8>& table() {
     static const QString application = u"quenfor"_s;
     static const QString section = u"Optionen"_s;
-    static const std::array<Entry, 7> entries{{
+    static const std::array<Entry, 8> entries{{
         {Setting::Label1, {application, section, u"label1"_s, defaultConfigFile()}},
         {Setting::Dir1, {application, section, u"dir1"_s, defaultFolder()}},
         {Setting::Drive1, {application, section, u"drive1"_s, defaultDrive()}},
@@ -30,6 +30,7 @@ const std::array<Entry, 7>& table() {
         {Setting::LblSchwarzweissblau, {application, section, u"lbl_schwarzweissblau"_s, u"weiss"_s}},
         {Setting::Codepage, {application, section, u"Codepage"_s, u"windows-1252"_s}},
         {Setting::ChkErklaerbaer, {application, section, u"chk_erklaerbaer"_s, u"0"_s}},
+        {Setting::Zielversion, {application, section, u"Zielversion"_s, QString()}},
     }};
     return entries;
 }

@@ -14,6 +14,7 @@ enum class Setting {
     LblSchwarzweissblau, // colour scheme: "schwarz", "weiss" or "blau"
     Codepage,            // code page of the configuration files
     ChkErklaerbaer,      // "1": every clicked line is explained at once
+    Zielversion,         // release the check and the picker look at ("CP6"); empty: none chosen
 };
 
 struct SettingDefinition {

@@ -96,12 +96,57 @@ TEST_F(LintCliTest, UsageAndHelp) {
          {QStringList{u"lint"_s}, QStringList{u"lint"_s, u"--pfade"_s, file}, QStringList{u"lint"_s, u"-i"_s, file}}) {
         const CliRun r = run(args);
         EXPECT_EQ(r.status, 2) << args.join(u' ').toStdString();
-        EXPECT_TRUE(r.err.contains(u"lint [--check-paths] DATEI..."_s)) << r.err.toStdString();
+        EXPECT_TRUE(r.err.contains(u"lint [--check-paths] [--release NAME] DATEI..."_s)) << r.err.toStdString();
     }
     const CliRun help = run({u"lint"_s, u"--help"_s});
     EXPECT_EQ(help.status, 0);
-    EXPECT_TRUE(QString::fromUtf8(help.out).startsWith(u"quenfor-cli lint [--check-paths] DATEI..."_s));
+    EXPECT_TRUE(
+        QString::fromUtf8(help.out).startsWith(u"quenfor-cli lint [--check-paths] [--release NAME] DATEI..."_s));
+    EXPECT_TRUE(
+        QString::fromUtf8(help.out).contains(u"WF4, CEP5, CP2, CP3, CP4, CP5, CP6, CP7, CP8, CP9, CP10, CP11"_s));
     EXPECT_TRUE(QString::fromUtf8(run({u"--help"_s}).out).contains(u"lint"_s));
+}
+
+// The administrator checks the company config against the release the seats run before rolling it
+// out: values outside an option's choices always, options the release lacks or hides on request.
+TEST_F(LintCliTest, ValuesAndTargetRelease) {
+    const QString file = write(u"config.pro"_s, "! Firmenkonfiguration\r\n"
+                                                "display shaded\r\n"
+                                                "3d_datum_display_fill YES\r\n"
+                                                "def_layer LAYER_DATUM datum\r\n"
+                                                "bell no\r\n");
+    const QString wrongValue =
+        file + u":2: Wert \"shaded\" ist für display nicht erlaubt – erlaubt: wireframe, hiddenvis, hiddeninvis, "
+               u"shade, shadewithreflect, shadewithedges; meinten Sie \"shade\"?\n"_s;
+    const CliRun plain = run({u"lint"_s, file});
+    EXPECT_EQ(plain.status, 1);
+    EXPECT_EQ(QString::fromUtf8(plain.out), wrongValue);
+
+    // The option may stand after the files; the name is taken in any case.
+    const CliRun cp6 = run({u"lint"_s, file, u"--release"_s, u"cp6"_s});
+    EXPECT_EQ(cp6.status, 1) << cp6.err.toStdString();
+    EXPECT_EQ(QString::fromUtf8(cp6.out),
+              wrongValue + file + u":3: \"3d_datum_display_fill\" gibt es in Creo Parametric 6.0 nicht\n"_s);
+    EXPECT_TRUE(cp6.err.isEmpty()) << cp6.err.toStdString();
+
+    const CliRun cp11 = run({u"lint"_s, u"--release"_s, u"CP11"_s, file});
+    EXPECT_EQ(QString::fromUtf8(cp11.out), wrongValue);
+}
+
+TEST_F(LintCliTest, UnknownReleaseIsAUsageErrorNamingTheKnownOnes) {
+    const QString file = clean();
+    const CliRun r = run({u"lint"_s, u"--release"_s, u"Creo6"_s, file});
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.out.isEmpty());
+    EXPECT_EQ(r.err.trimmed(),
+              u"Unbekannte Version \"Creo6\" – bekannt sind: WF4, CEP5, CP2, CP3, CP4, CP5, CP6, CP7, CP8, CP9, "
+              u"CP10, CP11"_s);
+    for (const QStringList& args : {QStringList{u"lint"_s, file, u"--release"_s},
+                                    QStringList{u"lint"_s, u"--release"_s, u"CP6"_s, u"--release"_s, u"CP7"_s, file}}) {
+        const CliRun bad = run(args);
+        EXPECT_EQ(bad.status, 2) << args.join(u' ').toStdString();
+        EXPECT_TRUE(bad.out.isEmpty());
+    }
 }
 
 } // namespace

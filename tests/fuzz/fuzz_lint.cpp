@@ -16,6 +16,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         o.dataFolder = programDataFolder();
         return o;
     }();
+    // Half the runs also check against a target release.
+    static const LintOptions withRelease = [] {
+        LintOptions o = options;
+        o.release = QStringLiteral("CP6");
+        return o;
+    }();
     // Loading the lists once per family keeps each run about the lines, as a real check of many files.
     static const QList<LintRules> rules = [] {
         QList<LintRules> all;
@@ -26,8 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     fuzz::FuzzInput input(data, size);
     const int family = input.byte() % 6;
+    const bool release = input.byte() % 2 == 1;
     const QStringList lines = input.lines(200);
-    const LintResult result = lintLines(lines, QString::fromLatin1(names[family]), rules[family], options);
+    const LintResult result =
+        lintLines(lines, QString::fromLatin1(names[family]), rules[family], release ? withRelease : options);
     for (const LintFinding& finding : result.findings) {
         if (finding.line < 1 || finding.line > lines.size())
             fuzz::fail("a finding on a line that does not exist");

@@ -76,8 +76,8 @@ TEST_F(LintRulesTest, FamiliesWithoutNameListsSaySo) {
 TEST_F(LintRulesTest, NameListsSkipCommentsAndTakeAnyLineEnd) {
     linttest::writeFile(data.filePath(u"known_options.txt"_s), "! Kommentar\r\nBell\r\n\r\nspin_center_display");
     linttest::writeFile(data.filePath(u"repeatable_options.txt"_s), "! nur diese\nBELL\n");
-    const LintResult r =
-        lintLines({u"bell a"_s, u"bell b"_s, u"spin_center_display x"_s, u"kommentar"_s}, u"config.pro"_s, options());
+    const LintResult r = lintLines({u"bell yes"_s, u"bell no"_s, u"spin_center_display no"_s, u"kommentar"_s},
+                                   u"config.pro"_s, options());
     EXPECT_EQ(linttest::spotsOf(r.findings), (QList<Spot>{{4, FindingKind::UnknownOption}}));
 }
 

@@ -34,6 +34,7 @@ std::vector<DefinitionCase> definitionCases() {
         {Setting::TxtTempdir, u"txt_tempdir"_s, tempFolder},
         {Setting::LblSchwarzweissblau, u"lbl_schwarzweissblau"_s, u"weiss"_s},
         {Setting::Codepage, u"Codepage"_s, u"windows-1252"_s},
+        {Setting::Zielversion, u"Zielversion"_s, QString()},
     };
 }
 

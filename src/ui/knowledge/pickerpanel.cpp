@@ -6,6 +6,7 @@
 #include "knowledge/categories.h"
 #include "knowledge/categorysort.h"
 #include "knowledge/optionfacts.h"
+#include "knowledge/optionreleases.h"
 #include "knowledge/picker.h"
 #include "ui/widgets/bearpicture.h"
 #include "ui/widgets/statushints.h"
@@ -14,12 +15,14 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QFont>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPalette>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -204,6 +207,30 @@ QMenu* PickerPanel::valueMenu(const QString& entry) {
     return menu;
 }
 
+void PickerPanel::setTargetRelease(const QString& name) {
+    m_release = cadReleaseIndex(name);
+    for (QListWidget* list : {m_cfg, m_dtl})
+        markHiddenOptions(list);
+}
+
+void PickerPanel::markHiddenOptions(QListWidget* list) const {
+    const OptionReleases* releases = list == m_cfg   ? &OptionReleases::config()
+                                     : list == m_dtl ? &OptionReleases::drawingSetup()
+                                                     : nullptr;
+    if (!releases)
+        return;
+    const QBrush hiddenColour = palette().brush(QPalette::Disabled, QPalette::Text);
+    for (int i = 0; i < list->count(); ++i) {
+        QListWidgetItem* item = list->item(i);
+        const QString note = hiddenOptionNote(*releases, item->text(), m_release);
+        QFont font = item->font();
+        font.setItalic(!note.isEmpty());
+        item->setFont(font);
+        item->setForeground(note.isEmpty() ? QBrush() : hiddenColour);
+        item->setToolTip(note);
+    }
+}
+
 QString PickerPanel::knowledgeBasePath() const {
     return m_knowledgeBase->text();
 }
@@ -233,12 +260,17 @@ QString PickerPanel::applyFamily(const FileFamily& family, const QString& dataFo
     picker->addItems(builtInPickerEntries(family.pickerList));
 
     m_pickerSource = joinFolderAndName(dataFolder, family.optionListFile);
-    if (!QFileInfo(m_pickerSource).isFile())
+    if (!QFileInfo(m_pickerSource).isFile()) {
+        markHiddenOptions(picker);
         return {};
+    }
     const ReadResult read = readDocumentFile(m_pickerSource, {});
-    if (!read.ok)
+    if (!read.ok) {
+        markHiddenOptions(picker);
         return read.error;
+    }
     picker->addItems(read.lines);
+    markHiddenOptions(picker);
     if (picker == m_cfg)
         m_categories->setCurrentIndex(0);
     // A search.pro keeps the option list loaded unseen: neither its name nor its reading is news.
@@ -264,6 +296,7 @@ QString PickerPanel::filterByCategory(int index) {
     m_cfg->clear();
     if (index > 0) {
         m_cfg->addItems(CategoryTable::builtIn().strings(index));
+        markHiddenOptions(m_cfg);
         return {};
     }
     const QString source = joinFolderAndName(m_dataFolder, u"quenfor.pro");
@@ -271,6 +304,7 @@ QString PickerPanel::filterByCategory(int index) {
     if (!read.ok)
         return QString::fromUtf16(kPickerSourceMissing);
     m_cfg->addItems(read.lines);
+    markHiddenOptions(m_cfg);
     return {};
 }
 

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QCheckBox;
 class QComboBox;
 class QFrame;
@@ -51,6 +53,9 @@ public:
     // allowed values; choosing one acts as a click on an entry of that text. Null when none known.
     QMenu* valueMenu(const QString& entry);
 
+    // The release whose hidden options the pickers mark ("CP6"); empty or unknown: the latest.
+    void setTargetRelease(const QString& name);
+
     // Shows an option's folder below the picker (frame_dir); an empty folder hides it.
     void showFolder(const QString& folder);
     void showBrain(bool shown);
@@ -71,7 +76,10 @@ protected:
 
 private:
     QListWidget* makePickerList(const QString& name);
+    // Greys and italicises the entries whose option the release hides, with a tooltip saying so.
+    void markHiddenOptions(QListWidget* list) const;
 
+    std::optional<int> m_release; // index into cadReleases(); none: the latest
     QString m_dataFolder;
     QString m_pickerSource;      // the family's picker source file, full path
     QFrame* m_optionFrame;       // Frame1

@@ -110,6 +110,7 @@ void LintPanel::check() {
     // The button's hint promises it: a search.pro is checked for folders that do not exist. The
     // check runs in the background and can be stopped, so slow network folders hold nothing up.
     options.checkPaths = true;
+    options.release = settingValue(Setting::Zielversion);
     const QStringList lines = m_document->lines(); // shared, not copied: the worker reads its own
     const QString fileName = m_document->fileName();
     setRunning(true);

@@ -8,11 +8,13 @@
 #include "settings/mainsettings.h"
 #include "settings/settingsreset.h"
 #include "settings/tempdircheck.h"
+#include "ui/knowledge/pickerpanel.h"
 #include "ui/main/colourpanel.h"
 #include "ui/main/documentlistview.h"
 #include "ui/main/entrylinepanel.h"
 #include "ui/main/filechooserpanel.h"
 #include "ui/main/folderpanel.h"
+#include "ui/main/lintpanel.h"
 #include "ui/main/tempdirpanel.h"
 #include "ui/main/toolcolumn.h"
 #include "ui/widgets/applycolourscheme.h"
@@ -21,6 +23,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileInfo>
 #include <QLabel>
 #include <QStackedWidget>
@@ -96,6 +99,15 @@ void MainWindow::connectPanels() {
     connect(m_tempDir, &TempDirPanel::closeRequested, m_tempDir, &QWidget::hide);
     connect(m_tempDir, &TempDirPanel::tempDirChanged, this,
             [this](const QString& folder) { setStatus(u"temp Dir: "_s + folder); });
+    const QString release = settingValue(Setting::Zielversion);
+    m_tempDir->setTargetRelease(release);
+    m_picker->setTargetRelease(release);
+    connect(m_tempDir, &TempDirPanel::targetReleaseChanged, this, [this](const QString& name) {
+        m_picker->setTargetRelease(name);
+        setStatus(name.isEmpty() ? tr("Zielversion: keine") : tr("Zielversion: %1").arg(name));
+        if (m_lintDock && m_lintDock->isVisible())
+            m_lintPanel->check();
+    });
     connect(m_colours, &ColourPanel::schemeChosen, this, &MainWindow::applyScheme);
     connect(m_colours, &ColourPanel::closeRequested, m_colours, &QWidget::hide);
 

@@ -2,10 +2,13 @@
 
 #include "ui/widgets/panelheader.h"
 
+#include "knowledge/optionreleases.h"
+#include "settings/mainsettings.h"
 #include "settings/tempdircheck.h"
 #include "settings/trailingseparator.h"
 
 #include <QColor>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,7 +21,8 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 TempDirPanel::TempDirPanel(QWidget* parent)
-    : QFrame(parent), m_entry(new QLineEdit(this)), m_info(new QLabel(this)), m_checkResult(new QLabel(this)) {
+    : QFrame(parent), m_entry(new QLineEdit(this)), m_info(new QLabel(this)), m_checkResult(new QLabel(this)),
+      m_release(new QComboBox(this)) {
     setObjectName(u"Tempdir"_s);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -43,7 +47,28 @@ TempDirPanel::TempDirPanel(QWidget* parent)
     layout->addWidget(m_info);
     layout->addWidget(m_entry);
     layout->addWidget(m_checkResult);
+
+    m_release->setObjectName(u"combo_zielversion"_s);
+    m_release->addItem(tr("keine"), QString());
+    // Newest first: most companies move to a recent release, few go back.
+    const QList<CadRelease>& releases = cadReleases();
+    for (auto it = releases.rbegin(); it != releases.rend(); ++it)
+        m_release->addItem(u"%1 (%2)"_s.arg(it->title, it->name), it->name);
+    m_release->setToolTip(tr("Prüfen meldet Optionen, die diese Version nicht kennt oder versteckt; die "
+                             "Vorauswahl markiert ihre versteckten Optionen."));
+    auto* releaseLabel = new QLabel(tr("Zielversion:"), this);
+    releaseLabel->setBuddy(m_release);
+    auto* releaseRow = new QHBoxLayout;
+    releaseRow->addWidget(releaseLabel);
+    releaseRow->addWidget(m_release, 1);
+    layout->addLayout(releaseRow);
     layout->addStretch();
+    connect(m_release, &QComboBox::activated, this, [this] {
+        const QString name = m_release->currentData().toString();
+        if (!setSettingValue(Setting::Zielversion, name))
+            m_checkResult->setText(tr("Die Zielversion konnte nicht gespeichert werden."));
+        emit targetReleaseChanged(name);
+    });
 
     connect(m_entry, &QLineEdit::textChanged, this, &TempDirPanel::colourText);
     connect(m_entry, &QLineEdit::returnPressed, this, &TempDirPanel::check);
@@ -52,6 +77,11 @@ TempDirPanel::TempDirPanel(QWidget* parent)
 
 void TempDirPanel::setText(const QString& text) {
     m_entry->setText(text);
+}
+
+void TempDirPanel::setTargetRelease(const QString& name) {
+    const std::optional<int> index = cadReleaseIndex(name);
+    m_release->setCurrentIndex(index ? m_release->findData(cadReleases()[*index].name) : 0);
 }
 
 QString TempDirPanel::folder() const {

@@ -1,6 +1,7 @@
 // The option picker, the Erklär-Bär and the sort by category, driven through the main window.
 #include "document/configdocument.h"
 #include "panelsandbox.h"
+#include "settings/mainsettings.h"
 #include "ui/main/mainwindow.h"
 #include "ui/widgets/dialogs.h"
 
@@ -209,6 +210,49 @@ private slots:
         QCOMPARE(picker()->item(0)->text(), u"! ZEICHNUNG"_s);
         QCOMPARE(m_window->findChild<QLabel*>(u"lbl_kathi"_s)->text(), u"Kategorie Zeichnung"_s);
         QCOMPARE(m_window->findChild<QLabel*>(u"lblstatus"_s)->text(), u"lösche doppelte Einträge..."_s);
+    }
+
+    // Hidden options stand out in the picker: for the latest release until the administrator picks
+    // the release the seats run in the settings, which stores it and marks the picker anew.
+    void pickerMarksHiddenOptionsOfTheTargetRelease() {
+        const QString source = m_data.filePath(u"quenfor.pro"_s);
+        const QByteArray original = readFile(source);
+        writeFile(source, "18_plus yes\r\nauto_locate_in_tree yes\r\ndisplay shade\r\n");
+        auto* box = m_window->findChild<QComboBox*>(u"combo_kathegorie"_s);
+        emit box->activated(0); // "Alles" reads the picker source again
+        writeFile(source, original);
+        QCOMPARE(picker()->count(), 3);
+        const auto marked = [this](int row) { return picker()->item(row)->font().italic(); };
+        QCOMPARE(picker()->item(0)->toolTip(),
+                 u"Versteckte Option: Creo Parametric 11.0 liest sie, dokumentiert sie aber nicht."_s);
+        QVERIFY(marked(0));
+        QVERIFY(!marked(1)); // documented in the latest release, hidden in older ones
+        QVERIFY(picker()->item(1)->toolTip().isEmpty());
+        QVERIFY(!marked(2));
+
+        m_window->findChild<QAction*>(u"mnuTempVerzeichnis"_s)->trigger();
+        auto* release = m_window->findChild<QComboBox*>(u"combo_zielversion"_s);
+        QVERIFY(release && release->isVisible());
+        QCOMPARE(release->currentText(), u"keine"_s);
+        const int cp4 = release->findData(u"CP4"_s);
+        QCOMPARE(release->itemText(cp4), u"Creo Parametric 4.0 (CP4)"_s);
+        release->setCurrentIndex(cp4);
+        emit release->activated(cp4);
+        QCOMPARE(settingValue(Setting::Zielversion), u"CP4"_s);
+        QVERIFY(marked(0));
+        QVERIFY(marked(1));
+        QCOMPARE(picker()->item(1)->toolTip(),
+                 u"Versteckte Option: Creo Parametric 4.0 liest sie, dokumentiert sie aber nicht."_s);
+        QVERIFY(!marked(2));
+
+        // A new window starts with the stored release.
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({m_work.filePath(u"config.pro"_s)});
+        QCOMPARE(m_window->findChild<QComboBox*>(u"combo_zielversion"_s)->currentData().toString(), u"CP4"_s);
+        release = m_window->findChild<QComboBox*>(u"combo_zielversion"_s);
+        release->setCurrentIndex(0);
+        emit release->activated(0);
+        QCOMPARE(settingValue(Setting::Zielversion), QString());
     }
 
     void sortByCategoryRefusesOtherFamiliesVisibly() {

@@ -10,6 +10,8 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
+#include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QLabel>
@@ -139,6 +141,34 @@ private slots:
     }
 
     // Opening another file while the view is shown checks the new file at once.
+    // Values outside an option's choices are findings; choosing a target release in the settings
+    // checks the shown file again against it.
+    void valuesAndTheTargetRelease() {
+        writeFile(m_dir.filePath(u"neu.pro"_s), "3d_datum_display_fill yes\r\ndisplay shaded\r\n");
+        m_window = std::make_unique<MainWindow>();
+        m_window->startUp({m_dir.filePath(u"neu.pro"_s)});
+        m_window->show();
+        m_window->findChild<QAbstractButton*>(u"cmd_pruefen"_s)->click();
+        waitForCheck();
+        QCOMPARE(findingLines(), QList<int>{2});
+        QVERIFY(panel()->model().findings().at(0).message.endsWith(u"meinten Sie \"shade\"?"_s));
+
+        m_window->findChild<QAction*>(u"mnuTempVerzeichnis"_s)->trigger();
+        auto* release = m_window->findChild<QComboBox*>(u"combo_zielversion"_s);
+        const int cp6 = release->findData(u"CP6"_s);
+        release->setCurrentIndex(cp6);
+        emit release->activated(cp6);
+        waitForCheck();
+        QCOMPARE(findingLines(), (QList<int>{1, 2}));
+        QCOMPARE(panel()->model().findings().at(0).message,
+                 u"\"3d_datum_display_fill\" gibt es in Creo Parametric 6.0 nicht"_s);
+
+        release->setCurrentIndex(0);
+        emit release->activated(0);
+        waitForCheck();
+        QCOMPARE(findingLines(), QList<int>{2});
+    }
+
     void anotherFileIsCheckedAtOnce() {
         m_window->findChild<QAbstractButton*>(u"cmd_pruefen"_s)->click();
         waitForCheck();
