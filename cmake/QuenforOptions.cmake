@@ -48,13 +48,18 @@ endif()
 # Precompiled Qt and standard headers: most of a file's compile time is spent in them. Two sets,
 # so the logic libraries still see no widget header; every target reuses one of them.
 option(QUENFOR_PCH "Precompile the Qt and standard headers" ON)
+# A target that only carries precompiled headers (cmake/pch/HEADER) for other targets to reuse.
+function(quenfor_add_pch_set name header)
+    cmake_parse_arguments(ARG "" "" "LIBS;OPTIONS;INCLUDES" ${ARGN})
+    add_library(${name} STATIC "${PROJECT_SOURCE_DIR}/cmake/pch/pch.cpp")
+    target_link_libraries(${name} PRIVATE quenfor_options ${ARG_LIBS})
+    target_compile_options(${name} PRIVATE ${ARG_OPTIONS})
+    target_include_directories(${name} PRIVATE ${ARG_INCLUDES})
+    target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch/${header}")
+endfunction()
 if(QUENFOR_PCH)
-    add_library(quenfor_pch_core STATIC "${PROJECT_SOURCE_DIR}/cmake/pch/pch.cpp")
-    target_link_libraries(quenfor_pch_core PRIVATE quenfor_options Qt6::Core)
-    target_precompile_headers(quenfor_pch_core PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch/core.h")
-    add_library(quenfor_pch_widgets STATIC "${PROJECT_SOURCE_DIR}/cmake/pch/pch.cpp")
-    target_link_libraries(quenfor_pch_widgets PRIVATE quenfor_options Qt6::Widgets)
-    target_precompile_headers(quenfor_pch_widgets PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch/widgets.h")
+    quenfor_add_pch_set(quenfor_pch_core core.h LIBS Qt6::Core)
+    quenfor_add_pch_set(quenfor_pch_widgets widgets.h LIBS Qt6::Widgets)
 endif()
 
 # kind: CORE for code that sees Qt Core only, WIDGETS for windows and their tests.

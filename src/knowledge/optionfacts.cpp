@@ -1,6 +1,7 @@
 #include "knowledge/optionfacts.h"
 
 #include "knowledge/knowledgebase.h"
+#include "knowledge/tablerows.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,19 +20,14 @@ const OptionFacts& OptionFacts::builtIn() {
 
 OptionFacts OptionFacts::parse(const QString& text) {
     OptionFacts facts;
-    for (QStringView line : QStringView(text).split(u'\n')) {
-        if (line.endsWith(u'\r'))
-            line.chop(1);
-        const QList<QStringView> fields = line.split(u'\t');
-        if (fields.size() < 2 || fields[0].isEmpty())
-            continue;
+    forEachTableRow(text, 2, [&facts](const QList<QStringView>& fields) {
         OptionFact fact{fields[1].toString(), {}};
         if (fields.size() > 2) {
             for (QStringView value : fields[2].split(u',', Qt::SkipEmptyParts))
                 fact.allowedValues.append(value.toString());
         }
         facts.m_facts.insert(fields[0].toString().toLower(), std::move(fact));
-    }
+    });
     return facts;
 }
 

@@ -1,6 +1,7 @@
 #include "knowledge/optionreleases.h"
 
 #include "knowledge/knowledgebase.h"
+#include "knowledge/tablerows.h"
 
 #include <QFile>
 
@@ -64,14 +65,9 @@ const OptionReleases& OptionReleases::drawingSetup() {
 
 OptionReleases OptionReleases::parse(const QString& text) {
     OptionReleases releases;
-    for (QStringView line : QStringView(text).split(u'\n')) {
-        if (line.endsWith(u'\r'))
-            line.chop(1);
-        const QList<QStringView> fields = line.split(u'\t');
-        if (fields.size() < 3 || fields[0].isEmpty())
-            continue;
+    forEachTableRow(text, 3, [&releases](const QList<QStringView>& fields) {
         releases.m_options.insert(fields[0].toString().toLower(), {releaseBits(fields[1]), releaseBits(fields[2])});
-    }
+    });
     return releases;
 }
 
