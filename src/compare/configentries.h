@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace quenfor {
+
+enum class EntryKind { Option, Mapkey };
+
+// One setting of a configuration file as the CAD system reads it: an option line, or a mapkey
+// with its continuation lines joined. Comments, blank lines and stray continuations set nothing.
+struct ConfigEntry {
+    EntryKind kind = EntryKind::Option;
+    // Identity: the option name in lower case (the CAD system ignores its case); for a mapkey
+    // "mapkey " followed by its key sequence, which stays as written.
+    QString key;
+    QString name;  // as written: the option name, or the mapkey's key sequence
+    QString value; // the rest of the line without the blanks around it; a mapkey's whole macro
+    int line = 0;  // document line the entry starts on, from 1
+};
+
+// The settings of a document's lines in file order. A line that holds LF line ends (a file from
+// Unix) is read piece by piece, as the CAD system reads it; its pieces keep the line's number.
+std::vector<ConfigEntry> configEntriesOf(const QStringList& lines);
+
+// The value as the CAD system compares it: without regard to case, a run of blanks as one blank.
+QString comparableValue(QStringView value);
+
+} // namespace quenfor
