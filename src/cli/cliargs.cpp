@@ -49,6 +49,11 @@ std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
             if (auto e = takeValue(value))
                 return e;
             out.flags.append(u"--mask="_s + *value);
+        } else if (a == u"--format") {
+            std::optional<QString> value;
+            if (auto e = takeValue(value))
+                return e;
+            out.flags.append(u"--format="_s + *value);
         } else {
             out.flags.append(a);
         }
