@@ -34,12 +34,6 @@ FileSettings settingsOf(const std::vector<ConfigEntry>& entries, const QSet<QStr
     return out;
 }
 
-bool sameValue(const FileSetting& s, const ConfigEntry& a, const ConfigEntry& b) {
-    if (s.kind == EntryKind::Mapkey)
-        return a.value == b.value; // a macro types text: its case matters
-    return comparableValue(a.value) == comparableValue(b.value);
-}
-
 DiffEntry added(const FileSetting& s, const ConfigEntry& b) {
     return {DiffChange::Added, s.kind, s.name, {}, b.value, 0, b.line};
 }
@@ -105,7 +99,7 @@ std::vector<DiffEntry> diffConfigs(const QStringList& linesA, const QStringList&
         } else {
             const ConfigEntry& oldE = *inA->values.front();
             const ConfigEntry& newE = *inB->values.front();
-            if (!sameValue(*inB, oldE, newE))
+            if (!sameSettingValue(inB->kind, oldE.value, newE.value))
                 out.push_back(
                     {DiffChange::Changed, inB->kind, inB->name, oldE.value, newE.value, oldE.line, newE.line});
         }

@@ -114,4 +114,8 @@ QString comparableValue(QStringView value) {
     return out;
 }
 
+bool sameSettingValue(EntryKind kind, QStringView a, QStringView b) {
+    return kind == EntryKind::Mapkey ? a == b : comparableValue(a) == comparableValue(b);
+}
+
 } // namespace quenfor

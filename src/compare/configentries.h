@@ -28,4 +28,8 @@ std::vector<ConfigEntry> configEntriesOf(const QStringList& lines);
 // The value as the CAD system compares it: without regard to case, a run of blanks as one blank.
 QString comparableValue(QStringView value);
 
+// Whether two values of a setting mean the same: options by comparableValue, a mapkey's macro
+// exactly (it types text, whose case matters).
+bool sameSettingValue(EntryKind kind, QStringView a, QStringView b);
+
 } // namespace quenfor

@@ -31,7 +31,9 @@ public:
         if (s.collects) {
             s.inEffect.push_back(std::move(place));
         } else if (s.locked && !locking) {
-            s.refused.push_back(std::move(place));
+            // Repeating the config.sup's own value changes nothing, so nothing is refused.
+            if (!sameSettingValue(s.kind, s.inEffect.front().value, place.value))
+                s.refused.push_back(std::move(place));
         } else {
             s.overridden.push_back(std::move(s.inEffect.front()));
             s.inEffect.front() = std::move(place);

@@ -26,7 +26,7 @@ struct EffectiveSetting {
     bool locked = false;                  // set by a config.sup: later files cannot change it
     std::vector<SettingPlace> inEffect;   // one value, or for a collecting option all, in load order
     std::vector<SettingPlace> overridden; // values a later line replaced, in load order
-    std::vector<SettingPlace> refused;    // later values the config.sup kept out
+    std::vector<SettingPlace> refused;    // later, other values the config.sup kept out
 };
 
 struct EffectiveConfig {

@@ -58,6 +58,10 @@ TEST(EffectiveConfig, ConfigSupIsReadFirstAndLocksWhatItSets) {
     EXPECT_EQ(places(unit.refused), (Places{{0, 1}})); // the site's attempt, whatever its case
     EXPECT_TRUE(unit.overridden.empty());
 
+    // Setting the config.sup's own value again tries to change nothing.
+    const EffectiveConfig same = effectiveConfig({kSup, {u"a.pro"_s, {u"pro_unit_length  UNIT_MM"_s}, false}}, {});
+    EXPECT_TRUE(settingOf(same, u"pro_unit_length"_s).refused.empty());
+
     // A mapkey of the config.sup is locked as well; the user's own mapkey on other keys is not.
     EXPECT_EQ(places(settingOf(c, u"mapkey $F5"_s).refused), (Places{{1, 6}}));
     EXPECT_EQ(settingOf(c, u"mapkey $F5"_s).inEffect.front().value, u"#firma;"_s);
