@@ -57,7 +57,7 @@ public:
     void flushIfLarge() {
         if (m_text.size() > 65536) {
             m_io.print(m_text);
-            m_text.clear();
+            m_text.truncate(0); // keeps the buffer for the next piece
         }
     }
 

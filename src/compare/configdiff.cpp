@@ -11,13 +11,14 @@ namespace {
 // What one file sets: for an option or mapkey its last value, for a repeatable option every value.
 struct FileSetting {
     EntryKind kind = EntryKind::Option;
-    QString name;
+    QStringView name;
     std::vector<const ConfigEntry*> values; // one, or for a repeatable option each line in order
 };
 
-using FileSettings = QHash<QString, FileSetting>;
+using FileSettings = QHash<QStringView, FileSetting>;
+using NameSet = QSet<QStringView>;
 
-FileSettings settingsOf(const std::vector<ConfigEntry>& entries, const QSet<QString>& repeatable) {
+FileSettings settingsOf(const std::vector<ConfigEntry>& entries, const NameSet& repeatable) {
     FileSettings out;
     out.reserve(qsizetype(entries.size()));
     for (const ConfigEntry& e : entries) {
@@ -35,11 +36,11 @@ FileSettings settingsOf(const std::vector<ConfigEntry>& entries, const QSet<QStr
 }
 
 DiffEntry added(const FileSetting& s, const ConfigEntry& b) {
-    return {DiffChange::Added, s.kind, s.name, {}, b.value, 0, b.line};
+    return {DiffChange::Added, s.kind, s.name.toString(), {}, b.value.toString(), 0, b.line};
 }
 
 DiffEntry removed(const FileSetting& s, const ConfigEntry& a) {
-    return {DiffChange::Removed, s.kind, s.name, a.value, {}, a.line, 0};
+    return {DiffChange::Removed, s.kind, s.name.toString(), a.value.toString(), {}, a.line, 0};
 }
 
 // Repeatable options: a value counts as many times as it stands; the surplus on either side differs.
@@ -73,11 +74,12 @@ std::vector<DiffEntry> diffConfigs(const QStringList& linesA, const QStringList&
                                    const QSet<QString>& repeatable) {
     const std::vector<ConfigEntry> entriesA = configEntriesOf(linesA);
     const std::vector<ConfigEntry> entriesB = configEntriesOf(linesB);
-    const FileSettings a = settingsOf(entriesA, repeatable);
-    const FileSettings b = settingsOf(entriesB, repeatable);
+    const NameSet repeatableNames(repeatable.cbegin(), repeatable.cend());
+    const FileSettings a = settingsOf(entriesA, repeatableNames);
+    const FileSettings b = settingsOf(entriesB, repeatableNames);
 
     std::vector<DiffEntry> out;
-    std::vector<QString> keys;
+    std::vector<QStringView> keys;
     for (auto it = a.cbegin(); it != a.cend(); ++it)
         keys.push_back(it.key());
     for (auto it = b.cbegin(); it != b.cend(); ++it) {
@@ -85,7 +87,7 @@ std::vector<DiffEntry> diffConfigs(const QStringList& linesA, const QStringList&
             keys.push_back(it.key());
     }
     std::sort(keys.begin(), keys.end());
-    for (const QString& key : keys) {
+    for (const QStringView key : keys) {
         const auto inA = a.constFind(key);
         const auto inB = b.constFind(key);
         if (inB == b.cend()) {
@@ -94,14 +96,14 @@ std::vector<DiffEntry> diffConfigs(const QStringList& linesA, const QStringList&
         } else if (inA == a.cend()) {
             for (const ConfigEntry* e : inB->values)
                 out.push_back(added(*inB, *e));
-        } else if (inA->kind == EntryKind::Option && repeatable.contains(key)) {
+        } else if (inA->kind == EntryKind::Option && repeatableNames.contains(key)) {
             diffCollected(*inA, *inB, out);
         } else {
             const ConfigEntry& oldE = *inA->values.front();
             const ConfigEntry& newE = *inB->values.front();
             if (!sameSettingValue(inB->kind, oldE.value, newE.value))
-                out.push_back(
-                    {DiffChange::Changed, inB->kind, inB->name, oldE.value, newE.value, oldE.line, newE.line});
+                out.push_back({DiffChange::Changed, inB->kind, inB->name.toString(), oldE.value.toString(),
+                               newE.value.toString(), oldE.line, newE.line});
         }
     }
     return out;

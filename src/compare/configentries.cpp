@@ -3,6 +3,8 @@
 #include "document/linekind.h"
 #include "lint/lintline.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -18,6 +20,41 @@ QStringView macroPiece(QStringView text) {
         text.chop(1);
     return text;
 }
+
+// Whether toLower changes the character; the ASCII test spares the Unicode tables for
+// nearly every character of an option name.
+bool changesInLowerCase(QChar c) {
+    if (c.unicode() < 0x80)
+        return c.unicode() >= u'A' && c.unicode() <= u'Z';
+    return c != c.toLower();
+}
+
+// Case folding with a shortcut for ASCII, which nearly every value is.
+QChar folded(QChar c) {
+    if (c.unicode() < 0x80)
+        return c.unicode() >= u'A' && c.unicode() <= u'Z' ? QChar(c.unicode() + 0x20) : c;
+    return c.toCaseFolded();
+}
+
+// Steps through a value as comparableValue sees it, without building it: a run of blanks is one
+// blank, every other character folded.
+class FoldedReader {
+public:
+    explicit FoldedReader(QStringView text) : m_text(text) {}
+    bool atEnd() const { return m_at >= m_text.size(); }
+    QChar next() {
+        const QChar c = m_text[m_at++];
+        if (!isOptionBlank(c))
+            return folded(c);
+        while (m_at < m_text.size() && isOptionBlank(m_text[m_at]))
+            ++m_at;
+        return u' ';
+    }
+
+private:
+    QStringView m_text;
+    qsizetype m_at = 0;
+};
 
 QStringView skipBlanks(QStringView text) {
     qsizetype at = 0;
@@ -41,8 +78,11 @@ public:
         const LineKind kind = classifyLine(text);
         if (kind == LineKind::Continuation) {
             // A continuation with no mapkey open sets nothing; the checks report it.
-            if (m_openMapkey)
-                m_out.back().value += macroPiece(text.sliced(kContinued.size()));
+            if (m_openMapkey) {
+                ConfigEntry& mapkey = m_out.back();
+                mapkey.macro += macroPiece(text.sliced(kContinued.size()));
+                mapkey.value = mapkey.macro;
+            }
             return;
         }
         m_openMapkey = false;
@@ -58,14 +98,22 @@ public:
         if (name.compare(u"mapkey", Qt::CaseInsensitive) == 0) {
             const QStringView keys = firstWord(value);
             entry.kind = EntryKind::Mapkey;
-            entry.name = keys.toString();
-            entry.key = u"mapkey "_s + entry.name;
-            entry.value = macroPiece(skipBlanks(value.sliced(keys.size()))).toString();
+            entry.name = keys;
+            entry.ownKey = u"mapkey "_s.append(keys);
+            entry.key = entry.ownKey;
+            entry.macro = macroPiece(skipBlanks(value.sliced(keys.size()))).toString();
+            entry.value = entry.macro; // the macro's buffer stays where it is when the entry moves
             m_openMapkey = true;
         } else {
-            entry.name = name.toString();
-            entry.key = entry.name.toLower();
-            entry.value = value.toString();
+            entry.name = name;
+            // Most names are written in lower case: then the key is the name itself, no copy.
+            if (std::any_of(name.begin(), name.end(), changesInLowerCase)) {
+                entry.ownKey = name.toString().toLower();
+                entry.key = entry.ownKey;
+            } else {
+                entry.key = name;
+            }
+            entry.value = value;
         }
         m_out.push_back(std::move(entry));
     }
@@ -109,13 +157,23 @@ QString comparableValue(QStringView value) {
         if (blank && !out.isEmpty())
             out += u' ';
         blank = false;
-        out += c.toCaseFolded();
+        out += folded(c);
     }
     return out;
 }
 
 bool sameSettingValue(EntryKind kind, QStringView a, QStringView b) {
-    return kind == EntryKind::Mapkey ? a == b : comparableValue(a) == comparableValue(b);
+    if (a == b) // the usual case, without folding a character
+        return true;
+    if (kind == EntryKind::Mapkey)
+        return false;
+    FoldedReader ra(a);
+    FoldedReader rb(b);
+    while (!ra.atEnd() && !rb.atEnd()) {
+        if (ra.next() != rb.next())
+            return false;
+    }
+    return ra.atEnd() && rb.atEnd();
 }
 
 } // namespace quenfor

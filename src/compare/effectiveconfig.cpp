@@ -8,12 +8,37 @@ namespace quenfor {
 
 namespace {
 
+// The first eight UTF-16 units of a key in two numbers, so that comparing prefixes orders keys
+// as comparing the keys does (a missing unit counts as 0, below every character a key holds).
+struct KeyPrefix {
+    quint64 high = 0;
+    quint64 low = 0;
+    auto operator<=>(const KeyPrefix&) const = default;
+};
+
+KeyPrefix keyPrefix(QStringView key) {
+    KeyPrefix prefix;
+    for (qsizetype i = 0; i < 8; ++i) {
+        quint64& word = i < 4 ? prefix.high : prefix.low;
+        word = (word << 16) | (i < key.size() ? key[i].unicode() : 0u);
+    }
+    return prefix;
+}
+
 class Collector {
 public:
-    explicit Collector(const QSet<QString>& repeatable) : m_repeatable(repeatable) {}
+    Collector(const QSet<QString>& repeatable, std::vector<QString>& texts, qsizetype expected)
+        : m_repeatable(repeatable.cbegin(), repeatable.cend()), m_texts(texts) {
+        m_index.reserve(expected);
+        m_settings.reserve(size_t(expected));
+    }
 
     void add(ConfigEntry&& entry, int file, bool locking) {
-        SettingPlace place{file, entry.line, std::move(entry.value)};
+        SettingPlace place{file, entry.line, entry.value};
+        if (entry.kind == EntryKind::Mapkey) {
+            m_texts.push_back(std::move(entry.macro));
+            place.value = m_texts.back(); // a moved QString keeps its buffer
+        }
         const auto at = m_index.constFind(entry.key);
         if (at == m_index.cend()) {
             m_index.insert(entry.key, qsizetype(m_settings.size()));
@@ -21,8 +46,10 @@ public:
             s.kind = entry.kind;
             s.collects = entry.kind == EntryKind::Option && m_repeatable.contains(entry.key);
             s.locked = locking && !s.collects;
-            s.key = std::move(entry.key);
-            s.name = std::move(entry.name);
+            s.key = entry.key;
+            if (!entry.ownKey.isNull())
+                m_texts.push_back(std::move(entry.ownKey)); // the key's buffer, kept alive
+            s.name = entry.name;
             s.inEffect.push_back(std::move(place));
             m_settings.push_back(std::move(s));
             return;
@@ -41,15 +68,32 @@ public:
         }
     }
 
+    // Sorted by key. The order is found on small items that carry the key's first eight
+    // characters, so most comparisons never touch the strings; then each setting moves once.
     std::vector<EffectiveSetting> take() {
-        std::sort(m_settings.begin(), m_settings.end(),
-                  [](const EffectiveSetting& a, const EffectiveSetting& b) { return a.key < b.key; });
-        return std::move(m_settings);
+        struct Item {
+            KeyPrefix prefix;
+            size_t index;
+        };
+        std::vector<Item> order(m_settings.size());
+        for (size_t i = 0; i < order.size(); ++i)
+            order[i] = {keyPrefix(m_settings[i].key), i};
+        std::sort(order.begin(), order.end(), [this](const Item& a, const Item& b) {
+            if (a.prefix != b.prefix)
+                return a.prefix < b.prefix;
+            return m_settings[a.index].key < m_settings[b.index].key;
+        });
+        std::vector<EffectiveSetting> sorted;
+        sorted.reserve(order.size());
+        for (const Item& item : order)
+            sorted.push_back(std::move(m_settings[item.index]));
+        return sorted;
     }
 
 private:
-    const QSet<QString>& m_repeatable;
-    QHash<QString, qsizetype> m_index;
+    const QSet<QStringView> m_repeatable; // views of the caller's names
+    std::vector<QString>& m_texts;
+    QHash<QStringView, qsizetype> m_index;
     std::vector<EffectiveSetting> m_settings;
 };
 
@@ -63,7 +107,10 @@ EffectiveConfig effectiveConfig(const std::vector<ConfigSource>& sources, const 
                 result.loadOrder.push_back(int(i));
         }
     }
-    Collector collector(repeatable);
+    qsizetype lines = 0;
+    for (const ConfigSource& source : sources)
+        lines += source.lines.size();
+    Collector collector(repeatable, result.texts, std::min<qsizetype>(lines, 1 << 20));
     for (const int file : result.loadOrder) {
         const ConfigSource& source = sources[size_t(file)];
         for (ConfigEntry& entry : configEntriesOf(source.lines))

@@ -14,14 +14,14 @@ namespace quenfor {
 struct SettingPlace {
     int file = 0;
     int line = 0;
-    QString value;
+    QStringView value;
 };
 
 // What the CAD system ends up with for one option or mapkey after reading every file.
 struct EffectiveSetting {
     EntryKind kind = EntryKind::Option;
-    QString key;                          // identity (see ConfigEntry::key)
-    QString name;                         // as written where it was first set
+    QStringView key;                      // identity (see ConfigEntry::key)
+    QStringView name;                     // as written where it was first set
     bool collects = false;                // a repeatable option: every value in `inEffect` counts
     bool locked = false;                  // set by a config.sup: later files cannot change it
     std::vector<SettingPlace> inEffect;   // one value, or for a collecting option all, in load order
@@ -29,9 +29,11 @@ struct EffectiveSetting {
     std::vector<SettingPlace> refused;    // later, other values the config.sup kept out
 };
 
+// Names and values point into the sources' lines: keep the sources while using the result.
 struct EffectiveConfig {
     std::vector<int> loadOrder;             // source indexes in the order they were read
     std::vector<EffectiveSetting> settings; // sorted by key
+    std::vector<QString> texts;             // joined mapkey macros and keys the views point into
 };
 
 // Reads the sources the way the CAD system loads them: every config.sup first (their order

@@ -18,7 +18,7 @@ struct Seen {
 std::vector<Seen> seen(const QStringList& lines) {
     std::vector<Seen> out;
     for (const ConfigEntry& e : configEntriesOf(lines))
-        out.push_back({e.key, e.value, e.line});
+        out.push_back({e.key.toString(), e.value.toString(), e.line});
     return out;
 }
 
@@ -39,6 +39,7 @@ TEST(ConfigEntries, NamesFoldToLowerCaseValuesKeepTheirs) {
         {u"  PRO_UNIT_LENGTH \t unit_MM  "_s, u"pro_format_dir C:\\Vorlagen\\ZZ - Zeichnung\\"_s, u"display_grid"_s});
     ASSERT_EQ(entries.size(), 3u);
     EXPECT_EQ(entries[0].key, u"pro_unit_length"_s);
+    EXPECT_EQ(entries[1].key, u"pro_format_dir"_s);
     EXPECT_EQ(entries[0].name, u"PRO_UNIT_LENGTH"_s);
     EXPECT_EQ(entries[0].value, u"unit_MM"_s);
     EXPECT_EQ(entries[1].value, u"C:\\Vorlagen\\ZZ - Zeichnung\\"_s); // blanks inside and the last "\" stay
@@ -72,4 +73,9 @@ TEST(ConfigEntries, ComparableValueIgnoresCaseAndBlankRuns) {
     EXPECT_EQ(comparableValue(u"C:\\PTC\\Teile  und\tNormteile"), comparableValue(u"c:\\ptc\\teile und normteile"));
     EXPECT_NE(comparableValue(u"unit_mm"), comparableValue(u"unit_inch"));
     EXPECT_NE(comparableValue(u"a b"), comparableValue(u"ab"));
+    // The same rule without building the texts, umlauts included; a mapkey's macro stays exact.
+    EXPECT_TRUE(sameSettingValue(EntryKind::Option, u"C:\\Größe  Teile", u"c:\\GRÖßE Teile"));
+    EXPECT_FALSE(sameSettingValue(EntryKind::Option, u"C:\\Größe", u"C:\\Grösse"));
+    EXPECT_FALSE(sameSettingValue(EntryKind::Option, u"a b", u"a bc"));
+    EXPECT_FALSE(sameSettingValue(EntryKind::Mapkey, u"#Text;", u"#text;"));
 }

@@ -98,7 +98,7 @@ TEST(EffectiveConfig, SettingsComeSortedByName) {
     const EffectiveConfig c = effectiveConfig({kSup, kSite, kUser}, kRepeatable);
     QStringList keys;
     for (const EffectiveSetting& s : c.settings)
-        keys.append(s.key);
+        keys.append(s.key.toString());
     EXPECT_EQ(keys, (QStringList{u"bell"_s, u"display"_s, u"drawing_setup_file"_s, u"mapkey $F2"_s, u"mapkey $F5"_s,
                                  u"pro_unit_length"_s, u"search_path"_s}));
 }
