@@ -69,7 +69,7 @@ public:
     }
 
     // Sorted by key. The order is found on small items that carry the key's first eight
-    // characters, so most comparisons never touch the strings; then each setting moves once.
+    // characters, so most comparisons never touch the strings; then the settings move into place.
     std::vector<EffectiveSetting> take() {
         struct Item {
             KeyPrefix prefix;
@@ -83,11 +83,25 @@ public:
                 return a.prefix < b.prefix;
             return m_settings[a.index].key < m_settings[b.index].key;
         });
-        std::vector<EffectiveSetting> sorted;
-        sorted.reserve(order.size());
-        for (const Item& item : order)
-            sorted.push_back(std::move(m_settings[item.index]));
-        return sorted;
+        // Place by place along each cycle of the permutation, so no second vector is needed:
+        // place `at` receives the setting that stood at order[at].index.
+        std::vector<bool> done(order.size());
+        for (size_t start = 0; start < order.size(); ++start) {
+            if (done[start] || order[start].index == start)
+                continue;
+            EffectiveSetting held = std::move(m_settings[start]);
+            for (size_t at = start;;) {
+                const size_t from = order[at].index;
+                done[at] = true;
+                if (from == start) {
+                    m_settings[at] = std::move(held);
+                    break;
+                }
+                m_settings[at] = std::move(m_settings[from]);
+                at = from;
+            }
+        }
+        return std::move(m_settings);
     }
 
 private:
