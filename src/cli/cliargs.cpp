@@ -43,7 +43,7 @@ std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
                 return e;
         } else if (a.startsWith(u"--codepage=")) {
             out.codepage = a.mid(11);
-        } else if (a == u"--mask" || a == u"--release") {
+        } else if (a == u"--mask" || a == u"--release" || a == u"--format") {
             // Its value goes with it wherever the option stands, so it is never taken for a word.
             std::optional<QString> value;
             if (auto e = takeValue(value))

@@ -3,6 +3,7 @@
 #include "cli/cliargs.h"
 #include "cli/clitexts.h"
 #include "cli/commands.h"
+#include "cli/comparecommands.h"
 #include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
 #include "cli/findcommand.h"
@@ -51,6 +52,8 @@ const QHash<QString, Runner>& toolCommands() {
         {u"find"_s, runFindCommand},
         {u"lint"_s, runLintCommand},
         {u"interpolate"_s, runInterpolateCommand},
+        {u"effective"_s, runEffectiveCommand},
+        {u"diff"_s, runDiffCommand},
     };
     return commands;
 }

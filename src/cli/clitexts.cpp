@@ -1,5 +1,6 @@
 #include "cli/clitexts.h"
 
+#include "cli/comparecommands.h"
 #include "cli/drwcheckcommand.h"
 #include "cli/editcommands.h"
 #include "cli/findcommand.h"
@@ -78,6 +79,8 @@ QString overviewHelp() {
            "  purge, clean, drwcheck, find\n\n"
            "Prüfen (Rückgabewert 1 bei Befunden):\n"
            "  lint\n\n"
+           "Vergleichen (welche Datei gilt; was sich geändert hat, Rückgabewert 1 bei Unterschieden):\n"
+           "  effective, diff\n\n"
            "Rechner:\n"
            "  interpolate\n\n"_s +
            kCommonOptions +
@@ -102,6 +105,8 @@ QString commandHelp(const QString& command) {
         text = findCommandHelp();
     if (text.isEmpty() && command == u"lint")
         text = lintCommandHelp();
+    if (text.isEmpty())
+        text = compareCommandHelp(command);
     if (text.isEmpty() && command == u"interpolate")
         text = interpolateCommandHelp();
     if (text.isEmpty())

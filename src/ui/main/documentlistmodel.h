@@ -1,6 +1,10 @@
 #pragma once
 
+#include "compare/linemarks.h"
+
 #include <QAbstractListModel>
+#include <QHash>
+#include <QIcon>
 #include <QPointer>
 
 namespace quenfor {
@@ -18,8 +22,20 @@ public:
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
+    // Lines that have no effect beside the chosen config.sup: an icon and the reason as tooltip.
+    // While marks are shown every line has room for the icon, so the text does not jump.
+    void setLineMarks(QHash<int, LineMark> marks);
+    void clearLineMarks();
+    bool showsLineMarks() const { return m_showMarks; }
+    const QHash<int, LineMark>& lineMarks() const { return m_marks; }
+
 private:
     QPointer<ConfigDocument> m_document;
+    QHash<int, LineMark> m_marks;
+    bool m_showMarks = false;
+    mutable QIcon m_lockedIcon;
+    mutable QIcon m_overriddenIcon;
+    mutable QIcon m_noIcon;
 };
 
 } // namespace quenfor

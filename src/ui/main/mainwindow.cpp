@@ -59,6 +59,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), m_document(new Co
     connectCadFiles();
     connectDeskTools();
     connectLint();
+    connectCompare();
     showMarked(-1);
 }
 

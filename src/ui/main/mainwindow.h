@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compare/configsource.h"
 #include "document/documentstorage.h"
 #include "ui/main/mainmenus.h"
 
@@ -9,6 +10,7 @@
 class QDockWidget;
 class QLabel;
 class QStackedWidget;
+class QTimer;
 
 namespace quenfor {
 
@@ -70,6 +72,7 @@ private:
     void connectCadFiles();
     void connectDeskTools();
     void connectLint();
+    void connectCompare();
     void openTextEditor();
     void openMessenger();
 
@@ -119,6 +122,12 @@ private:
     // The "Prüfen" view, made when first shown
     void showLintPanel();
 
+    // "Vergleichen…" and the marks of lines a chosen config.sup locks or a later line replaces
+    void openCompareWindow();
+    void chooseConfigSup();
+    void dropConfigSup();
+    void refreshLineMarks();
+
     ConfigDocument* m_document;
     DocumentUndo* m_undo = nullptr;
     StatusHints* m_hints = nullptr;
@@ -163,6 +172,9 @@ private:
     QPointer<QWidget> m_about;
     QDockWidget* m_lintDock = nullptr;
     LintPanel* m_lintPanel = nullptr;
+    QPointer<QWidget> m_compare;
+    std::optional<ConfigSource> m_configSup; // chosen for this session only
+    QTimer* m_marksTimer = nullptr;          // marks follow edits after a short pause
 };
 
 } // namespace quenfor

@@ -418,9 +418,11 @@ private slots:
             for (QAction* entry : menuAction->menu()->actions())
                 captions.append(entry->text());
         }
-        QCOMPARE(captions.size(), 5 + 7 + 6 + 13 + 11 + 2);
-        QCOMPARE(captions.mid(0, 8), QStringList({u"&Datei"_s, u"Neu"_s, u"Öffnen"_s, u"Speichern"_s,
-                                                  u"Speichern als..."_s, u"Drucken"_s, u"Purge"_s, u"EXIT"_s}));
+        QCOMPARE(captions.size(), 5 + 10 + 6 + 13 + 11 + 2);
+        QCOMPARE(
+            captions.mid(0, 11),
+            QStringList({u"&Datei"_s, u"Neu"_s, u"Öffnen"_s, u"Speichern"_s, u"Speichern als..."_s, u"Drucken"_s,
+                         u"Vergleichen…"_s, u"config.sup wählen…"_s, u"config.sup abwählen"_s, u"Purge"_s, u"EXIT"_s}));
         QVERIFY(captions.contains(u"Ist das Modell auch in der Zeichnung ?"_s));
         QCOMPARE(captions.mid(captions.size() - 3),
                  QStringList({u"&Info"_s, u"Über+Q+U+E+N+F+O+R+"_s, u"Temp. Verzeichnis"_s}));

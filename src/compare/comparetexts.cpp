@@ -1,0 +1,201 @@
+#include "compare/comparetexts.h"
+
+#include "lint/linttexts.h"
+
+#include <QFileInfo>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace quenfor {
+
+namespace {
+
+constexpr qsizetype kWhole = std::numeric_limits<qsizetype>::max();
+
+void appendShown(QString& out, QStringView text) {
+    // Nearly every value is plain text: one append instead of one per character. The test runs
+    // over the whole text without an early exit, which the compiler turns into vector code.
+    bool control = false;
+    for (const QChar c : text)
+        control |= c.unicode() < 0x20 || c.unicode() == 0x7f;
+    if (control)
+        appendShownText(out, text, kWhole);
+    else
+        out += text;
+}
+
+// A line number without a QString of its own: the output holds hundreds of thousands of them.
+void appendNumber(QString& out, int number) {
+    char16_t digits[12];
+    int at = 12;
+    auto rest = unsigned(number);
+    do {
+        digits[--at] = char16_t(u'0' + rest % 10);
+        rest /= 10;
+    } while (rest > 0);
+    out += QStringView(digits + at, 12 - at);
+}
+
+void appendPlace(QString& out, const QString& file, int line) {
+    appendShown(out, file);
+    out += u':';
+    appendNumber(out, line);
+}
+
+void appendTitle(QString& out, const EffectiveSetting& s) {
+    if (s.kind == EntryKind::Mapkey)
+        out += u"mapkey "_s;
+    appendShown(out, s.name);
+}
+
+// "bell yes  (config.pro:12)"
+void appendValueAt(QString& out, const SettingPlace& p, const QStringList& files) {
+    appendShown(out, p.value);
+    out += u"  ("_s;
+    appendPlace(out, files.value(p.file), p.line);
+    out += u')';
+}
+
+void appendTsvRow(QString& out, const EffectiveSetting& s, const SettingPlace& p, const QStringList& files,
+                  QStringView state) {
+    appendTitle(out, s);
+    out += u'\t';
+    appendShown(out, p.value);
+    out += u'\t';
+    appendShown(out, files.value(p.file));
+    out += u'\t';
+    appendNumber(out, p.line);
+    out += u'\t';
+    out += state;
+    out += u'\n';
+}
+
+QString fileNameOf(const std::vector<ConfigSource>& sources, int file) {
+    return QFileInfo(sources.at(size_t(file)).path).fileName();
+}
+
+// "\"bell no\" (config.sup, Zeile 3)"
+QString quotedSetting(const EffectiveSetting& s, const SettingPlace& p, const std::vector<ConfigSource>& sources) {
+    QString text = u"\""_s;
+    appendTitle(text, s);
+    text += u' ';
+    appendShownText(text, p.value);
+    text += u"\" (%1, Zeile %2)"_s.arg(fileNameOf(sources, p.file)).arg(p.line);
+    return text;
+}
+
+} // namespace
+
+QString settingTitle(EntryKind kind, const QString& name) {
+    return kind == EntryKind::Mapkey ? u"mapkey "_s + name : name;
+}
+
+void appendEffectiveText(QString& out, const EffectiveSetting& s, const QStringList& files) {
+    appendTitle(out, s);
+    if (s.collects) {
+        out += u" (sammelt alle Werte)\n"_s;
+        for (const SettingPlace& p : s.inEffect) {
+            out += u"    "_s;
+            appendValueAt(out, p, files);
+            out += u'\n';
+        }
+    } else {
+        out += u' ';
+        appendValueAt(out, s.inEffect.front(), files);
+        if (s.locked)
+            out += u" gesperrt"_s;
+        out += u'\n';
+        for (const SettingPlace& p : s.overridden) {
+            out += u"    überschreibt: "_s;
+            appendValueAt(out, p, files);
+            out += u'\n';
+        }
+    }
+    for (const SettingPlace& p : s.refused) {
+        out += u"    gesperrt durch config.sup: "_s;
+        appendValueAt(out, p, files);
+        out += u'\n';
+    }
+}
+
+void appendEffectiveTsv(QString& out, const EffectiveSetting& s, const QStringList& files) {
+    for (const SettingPlace& p : s.overridden)
+        appendTsvRow(out, s, p, files, u"overridden");
+    for (const SettingPlace& p : s.inEffect)
+        appendTsvRow(out, s, p, files, s.locked ? u"locked" : u"effective");
+    for (const SettingPlace& p : s.refused)
+        appendTsvRow(out, s, p, files, u"refused");
+}
+
+QString changeText(DiffChange change) {
+    switch (change) {
+    case DiffChange::Added:
+        return u"hinzugefügt"_s;
+    case DiffChange::Removed:
+        return u"entfernt"_s;
+    case DiffChange::Changed:
+        break;
+    }
+    return u"geändert"_s;
+}
+
+void appendDiffText(QString& out, const DiffEntry& d, const QString& fileA, const QString& fileB) {
+    out += d.change == DiffChange::Added ? u'+' : d.change == DiffChange::Removed ? u'-' : u'~';
+    out += u' ';
+    appendShown(out, settingTitle(d.kind, d.name));
+    out += u": "_s;
+    if (d.change != DiffChange::Added)
+        appendShown(out, d.oldValue);
+    if (d.change == DiffChange::Changed)
+        out += u" → "_s;
+    if (d.change != DiffChange::Removed)
+        appendShown(out, d.newValue);
+    out += u"  ("_s;
+    if (d.lineA > 0)
+        appendPlace(out, fileA, d.lineA);
+    if (d.change == DiffChange::Changed)
+        out += u" → "_s;
+    if (d.lineB > 0)
+        appendPlace(out, fileB, d.lineB);
+    out += u")\n"_s;
+}
+
+void appendDiffTsv(QString& out, const DiffEntry& d) {
+    out += d.change == DiffChange::Added ? u"added"_s : d.change == DiffChange::Removed ? u"removed"_s : u"changed"_s;
+    out += d.kind == EntryKind::Mapkey ? u"\tmapkey\t"_s : u"\toption\t"_s;
+    appendShown(out, d.name);
+    out += u'\t';
+    appendShown(out, d.oldValue);
+    out += u'\t';
+    appendShown(out, d.newValue);
+    out += u'\t';
+    if (d.lineA > 0)
+        appendNumber(out, d.lineA);
+    out += u'\t';
+    if (d.lineB > 0)
+        appendNumber(out, d.lineB);
+    out += u'\n';
+}
+
+QString diffSummaryText(const std::vector<DiffEntry>& diff) {
+    if (diff.empty())
+        return u"Keine Unterschiede: beide Dateien setzen dasselbe."_s;
+    qsizetype counts[3] = {0, 0, 0};
+    for (const DiffEntry& d : diff)
+        ++counts[int(d.change)];
+    return u"%1 hinzugefügt, %2 entfernt, %3 geändert"_s.arg(counts[0]).arg(counts[1]).arg(counts[2]);
+}
+
+QString lockedLineText(const EffectiveSetting& s, const std::vector<ConfigSource>& sources) {
+    return u"gesperrt durch config.sup: dort steht %1. Diese Zeile bleibt ohne Wirkung."_s.arg(
+        quotedSetting(s, s.inEffect.front(), sources));
+}
+
+QString overriddenLineText(const EffectiveSetting& s, const std::vector<ConfigSource>& sources) {
+    return u"überschrieben: es gilt %1. Diese Zeile bleibt ohne Wirkung."_s.arg(
+        quotedSetting(s, s.inEffect.front(), sources));
+}
+
+} // namespace quenfor
