@@ -74,7 +74,13 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
     } else if (cmd == u"categories") {
         lines = sortByCategory(lines, CategoryTable::builtIn());
     } else if (cmd == u"repair") {
-        lines = repairFragmentedText(decodeText(raw, encodingChoiceFor(args)), lines.size());
+        // Only the number of lines is needed from the reading; a huge file is held once as
+        // bytes and once as text, never more.
+        const qsizetype count = lines.size();
+        lines = QStringList();
+        QString text = decodeText(raw, encodingChoiceFor(args));
+        raw = QByteArray();
+        lines = repairFragmentedText(std::move(text), count);
     }
     const int status = writeOutput(file, args, io, lines, read.encoding, read.stamp);
     // Freeing a million strings one by one takes longer than the whole save; the process ends

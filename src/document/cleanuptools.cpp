@@ -177,10 +177,10 @@ void lowerCaseLines(ConfigDocument& doc) {
     doc.replaceAll(lowerCaseLines(doc.lines()));
 }
 
-QStringList repairFragmentedText(const QString& fileText, qsizetype lineCount) {
-    QString buffer = fileText.left(offsetAfterLines(fileText, lineCount));
-    buffer.replace(u'\n', u'\r');
-    return splitLines(buffer);
+QStringList repairFragmentedText(QString fileText, qsizetype lineCount) {
+    fileText.truncate(offsetAfterLines(fileText, lineCount));
+    fileText.replace(u'\n', u'\r');
+    return splitLines(fileText);
 }
 
 QString repairSaveQuestion(const QString& fileName) {

@@ -41,8 +41,9 @@ void lowerCaseLines(ConfigDocument& doc);
 // Rebuilds lines whose ends were lost: the file text, up to the end of its first `lineCount`
 // lines, with every LF turned into CR, split again by the reader's rule. An LF-only file thus
 // gets its lines back; a CR LF file gets an empty line after each line, which is why the window
-// warns before running it.
-QStringList repairFragmentedText(const QString& fileText, qsizetype lineCount);
+// warns before running it. The text is reworked in place: hand it over with std::move where it
+// is not needed any more, so a huge file is not held twice.
+QStringList repairFragmentedText(QString fileText, qsizetype lineCount);
 
 inline constexpr char16_t kRepairWarning[] =
     u"Bitte wenden Sie diese Funktion nur auf einen Text an der unleserlich ist oder ohne Zeilenumbrüche erscheint ! "

@@ -184,8 +184,8 @@ void MainWindow::repairFragmentedFile() {
         return;
     }
     setStatus(u"Text wird defragmentiert..."_s);
-    const QString text = decodeText(readWholeFile(path), {settingValue(Setting::Codepage), false});
-    const QStringList lines = repairFragmentedText(text, m_document->count());
+    QString text = decodeText(readWholeFile(path), {settingValue(Setting::Codepage), false});
+    const QStringList lines = repairFragmentedText(std::move(text), m_document->count());
     runWholeDocumentTool([&] {
         m_document->replaceAll(lines);
         return QString();
