@@ -1,6 +1,7 @@
 #include "compare/configentries.h"
 
 #include "document/linekind.h"
+#include "lint/conflictingvaluecheck.h"
 #include "lint/lintline.h"
 
 #include <algorithm>
@@ -28,33 +29,6 @@ bool changesInLowerCase(QChar c) {
         return c.unicode() >= u'A' && c.unicode() <= u'Z';
     return c != c.toLower();
 }
-
-// Case folding with a shortcut for ASCII, which nearly every value is.
-QChar folded(QChar c) {
-    if (c.unicode() < 0x80)
-        return c.unicode() >= u'A' && c.unicode() <= u'Z' ? QChar(c.unicode() + 0x20) : c;
-    return c.toCaseFolded();
-}
-
-// Steps through a value as comparableValue sees it, without building it: a run of blanks is one
-// blank, every other character folded.
-class FoldedReader {
-public:
-    explicit FoldedReader(QStringView text) : m_text(text) {}
-    bool atEnd() const { return m_at >= m_text.size(); }
-    QChar next() {
-        const QChar c = m_text[m_at++];
-        if (!isOptionBlank(c))
-            return folded(c);
-        while (m_at < m_text.size() && isOptionBlank(m_text[m_at]))
-            ++m_at;
-        return u' ';
-    }
-
-private:
-    QStringView m_text;
-    qsizetype m_at = 0;
-};
 
 QStringView skipBlanks(QStringView text) {
     qsizetype at = 0;
@@ -157,7 +131,7 @@ QString comparableValue(QStringView value) {
         if (blank && !out.isEmpty())
             out += u' ';
         blank = false;
-        out += folded(c);
+        out += foldedValueChar(c);
     }
     return out;
 }
@@ -165,15 +139,7 @@ QString comparableValue(QStringView value) {
 bool sameSettingValue(EntryKind kind, QStringView a, QStringView b) {
     if (a == b) // the usual case, without folding a character
         return true;
-    if (kind == EntryKind::Mapkey)
-        return false;
-    FoldedReader ra(a);
-    FoldedReader rb(b);
-    while (!ra.atEnd() && !rb.atEnd()) {
-        if (ra.next() != rb.next())
-            return false;
-    }
-    return ra.atEnd() && rb.atEnd();
+    return kind != EntryKind::Mapkey && sameOptionValue(a, b);
 }
 
 } // namespace quenfor

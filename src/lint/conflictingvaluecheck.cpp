@@ -23,7 +23,7 @@ public:
     QChar next() {
         const QChar c = m_text[m_at++];
         if (!isOptionBlank(c))
-            return c.toCaseFolded();
+            return foldedValueChar(c);
         while (m_at < m_text.size() && isOptionBlank(m_text[m_at]))
             ++m_at;
         return u' ';

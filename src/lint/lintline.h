@@ -31,6 +31,13 @@ inline bool isOptionBlank(QChar c) {
     return c == u' ' || c == u'\t';
 }
 
+// Case folding as values are compared, with a shortcut for ASCII, which nearly every value is.
+inline QChar foldedValueChar(QChar c) {
+    if (c.unicode() < 0x80)
+        return c.unicode() >= u'A' && c.unicode() <= u'Z' ? QChar(c.unicode() + 0x20) : c;
+    return c.toCaseFolded();
+}
+
 // Whether the line sets an option whose name the checks look at. A mapkey head names no option;
 // anything else that the line kinds call a mapkey (a word that merely begins with "mapkey") is
 // checked like any option. Needs the line's nameId.
