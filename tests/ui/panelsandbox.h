@@ -21,3 +21,15 @@ template <typename TestObject> int runInSettingsSandbox(int argc, char** argv) {
     TestObject test;
     return QTest::qExec(&test, argc, argv);
 }
+
+// Files for the window tests: written whole (the test stops when that fails) and read whole.
+inline void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    QCOMPARE(f.write(bytes), bytes.size());
+}
+
+inline QByteArray readFile(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}

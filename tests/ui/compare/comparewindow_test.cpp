@@ -19,16 +19,6 @@
 using namespace Qt::StringLiterals;
 using namespace quenfor;
 
-namespace {
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
-} // namespace
-
 class CompareWindowTest : public QObject {
     Q_OBJECT
 

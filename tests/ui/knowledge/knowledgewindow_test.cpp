@@ -19,21 +19,6 @@
 using namespace Qt::StringLiterals;
 using namespace quenfor;
 
-namespace {
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
-QByteArray readFile(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-} // namespace
-
 class KnowledgeWindowTest : public QObject {
     Q_OBJECT
 

@@ -13,16 +13,6 @@
 using namespace Qt::StringLiterals;
 using namespace quenfor;
 
-namespace {
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
-} // namespace
-
 class ConfigSupMarksTest : public QObject {
     Q_OBJECT
 

@@ -24,12 +24,6 @@ using namespace quenfor;
 
 namespace {
 
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
 // A small company config with three faults: a typo (line 3), a value set twice (line 5) and a
 // mapkey whose continuation is missing (line 6).
 const QByteArray kConfig = "! Konstruktion\r\n"
