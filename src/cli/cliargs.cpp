@@ -1,20 +1,77 @@
 #include "cli/cliargs.h"
 
+#include "cli/commandtable.h"
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor::cli {
 
+qsizetype CliArgs::count(QStringView key) const {
+    return std::count_if(options.begin(), options.end(), [&](const GivenOption& o) { return o.key == key; });
+}
+
+std::optional<QString> CliArgs::value(QStringView key) const {
+    for (auto it = options.rbegin(); it != options.rend(); ++it) {
+        if (it->key == key)
+            return it->value;
+    }
+    return std::nullopt;
+}
+
+namespace {
+
+// "-5" or "-,5" is a number that a calculator refuses with its own message, never an option.
+bool looksLikeNumber(QStringView a) {
+    return a.size() > 1 && a[0] == u'-' && (a[1].isDigit() || a[1] == u',' || a[1] == u'.');
+}
+
+const CommandOption* findOption(const QList<CommandOption>& options, QStringView name) {
+    const auto it =
+        std::find_if(options.begin(), options.end(), [&](const CommandOption& o) { return o.matches(name); });
+    return it == options.end() ? nullptr : &*it;
+}
+
+// Before the command word is read, an option takes a value when it does so for some command.
+const CommandOption* anyCommandOption(QStringView name) {
+    for (const CommandSpec& spec : commandTable()) {
+        if (const CommandOption* option = findOption(spec.options, name))
+            return option;
+    }
+    return nullptr;
+}
+
+void applyCommon(const CommandOption& option, const std::optional<QString>& value, CliArgs& out) {
+    const QString& key = option.key();
+    if (key == u"--help")
+        out.help = true;
+    else if (key == u"--version")
+        out.version = true;
+    else if (key == u"--in-place")
+        out.inPlace = true;
+    else if (key == u"-o")
+        out.outFile = value;
+    else if (key == u"--codepage")
+        out.codepage = value;
+    else if (key == u"--kb")
+        out.kbFile = value;
+    else if (key == u"--data")
+        out.dataDir = value;
+}
+
+} // namespace
+
 std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
+    struct Given {
+        QString name; // as typed, without "=value"
+        std::optional<QString> value;
+    };
+    QList<Given> given;
     bool onlyPositional = false;
     for (qsizetype i = 0; i < args.size(); ++i) {
         const QString& a = args[i];
-        auto takeValue = [&](std::optional<QString>& target) -> std::optional<QString> {
-            if (i + 1 >= args.size())
-                return u"Die Option %1 braucht einen Wert."_s.arg(a);
-            target = args[++i];
-            return std::nullopt;
-        };
-        if (onlyPositional || a == u"-" || !a.startsWith(u'-')) {
+        if (onlyPositional || a == u"-" || !a.startsWith(u'-') || looksLikeNumber(a)) {
             if (out.command.isEmpty())
                 out.command = a;
             else
@@ -23,38 +80,52 @@ std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
         }
         if (a == u"--") {
             onlyPositional = true;
-        } else if (a == u"--help" || a == u"-h") {
-            out.help = true;
-        } else if (a == u"--version") {
-            out.version = true;
-        } else if (a == u"-i" || a == u"--in-place") {
-            out.inPlace = true;
-        } else if (a == u"-o") {
-            if (auto e = takeValue(out.outFile))
-                return e;
-        } else if (a == u"--codepage") {
-            if (auto e = takeValue(out.codepage))
-                return e;
-        } else if (a == u"--kb") {
-            if (auto e = takeValue(out.kbFile))
-                return e;
-        } else if (a == u"--data") {
-            if (auto e = takeValue(out.dataDir))
-                return e;
-        } else if (a.startsWith(u"--codepage=")) {
-            out.codepage = a.mid(11);
-        } else if (a == u"--mask" || a == u"--release" || a == u"--format") {
-            // Its value goes with it wherever the option stands, so it is never taken for a word.
-            std::optional<QString> value;
-            if (auto e = takeValue(value))
-                return e;
-            out.flags.append(a + u'=' + *value);
-        } else {
-            out.flags.append(a);
+            continue;
         }
+        QString name = a;
+        std::optional<QString> inlineValue;
+        if (const qsizetype eq = a.indexOf(u'='); a.startsWith(u"--") && eq > 2) {
+            name = a.left(eq);
+            inlineValue = a.mid(eq + 1);
+        }
+        const CommandOption* common = findOption(commonOptions(), name);
+        const CommandOption* option = common;
+        if (!option) {
+            const CommandSpec* spec = findCommandSpec(out.command);
+            option = spec ? findOption(spec->options, name) : anyCommandOption(name);
+        }
+        std::optional<QString> value = inlineValue;
+        if (option && option->takesValue() && !value) {
+            // The value goes with its option wherever it stands, so it is never taken for a word.
+            if (i + 1 >= args.size())
+                return u"Die Option %1 braucht einen Wert."_s.arg(name);
+            value = args[++i];
+        } else if (option && !option->takesValue() && value) {
+            return u"Die Option %1 nimmt keinen Wert."_s.arg(name);
+        }
+        if (common)
+            applyCommon(*common, value, out);
+        else
+            given.append({name, value});
     }
     if (out.inPlace && out.outFile)
         return u"-i und -o schließen einander aus."_s;
+
+    // An unknown command is reported as such by the runner; a help request shows the help anyway.
+    const CommandSpec* spec = findCommandSpec(out.command);
+    if (!spec || out.help)
+        return std::nullopt;
+    for (const Given& g : given) {
+        const CommandOption* option = findOption(spec->options, g.name);
+        if (!option)
+            return u"Unbekannte Option %1 für den Befehl %2.\nAufruf: quenfor-cli %3"_s.arg(g.name, spec->name,
+                                                                                            synopsisOf(*spec));
+        if (option->takesValue() && !g.value)
+            return u"Die Option %1 braucht einen Wert."_s.arg(g.name);
+        if (!option->takesValue() && g.value)
+            return u"Die Option %1 nimmt keinen Wert."_s.arg(g.name);
+        out.options.append({option->key(), g.value});
+    }
     return std::nullopt;
 }
 

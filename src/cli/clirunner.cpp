@@ -2,20 +2,8 @@
 
 #include "cli/cliargs.h"
 #include "cli/clitexts.h"
-#include "cli/commands.h"
-#include "cli/comparecommands.h"
-#include "cli/drwcheckcommand.h"
-#include "cli/editcommands.h"
-#include "cli/findcommand.h"
-#include "cli/interpolatecommand.h"
-#include "cli/lintcommand.h"
-#include "cli/mapkeycommands.h"
-#include "cli/proposalcommands.h"
-#include "cli/purgecommands.h"
-#include "cli/searchprocommands.h"
+#include "cli/commandtable.h"
 #include "common/safefilewrite.h"
-
-#include <QHash>
 
 #include <cerrno>
 
@@ -31,34 +19,6 @@ void CliStreams::message(const QString& text) const {
     err.write(text.toUtf8());
     err.write("\n");
 }
-
-namespace {
-
-using Runner = int (*)(const CliArgs&, const CliStreams&);
-
-// The generators, mapkey tools and file utilities, each in a file of its own.
-const QHash<QString, Runner>& toolCommands() {
-    static const QHash<QString, Runner> commands = {
-        {u"mapkeys"_s, runMapkeysCommand},
-        {u"mapkey-dups"_s, runMapkeyDupsCommand},
-        {u"favorite"_s, runFavoriteCommand},
-        {u"replace"_s, runReplaceCommand},
-        {u"proposal"_s, runProposalCommand},
-        {u"ghost"_s, runGhostCommand},
-        {u"searchpro"_s, runSearchProCommand},
-        {u"purge"_s, runPurgeCommand},
-        {u"clean"_s, runCleanCommand},
-        {u"drwcheck"_s, runDrwCheckCommand},
-        {u"find"_s, runFindCommand},
-        {u"lint"_s, runLintCommand},
-        {u"interpolate"_s, runInterpolateCommand},
-        {u"effective"_s, runEffectiveCommand},
-        {u"diff"_s, runDiffCommand},
-    };
-    return commands;
-}
-
-} // namespace
 
 int runCli(const QStringList& argList, const CliStreams& io) {
     CliArgs args;
@@ -83,12 +43,8 @@ int runCli(const QStringList& argList, const CliStreams& io) {
         io.print(help);
         return kOk;
     }
-    if (isDocumentCommand(args.command))
-        return runDocumentCommand(args, io);
-    if (isQueryCommand(args.command))
-        return runQueryCommand(args, io);
-    if (const Runner run = toolCommands().value(args.command))
-        return run(args, io);
+    if (const CommandSpec* spec = findCommandSpec(args.command))
+        return spec->run(args, io);
     io.message(u"Unbekannter Befehl: %1 (quenfor-cli --help zeigt alle Befehle)"_s.arg(args.command));
     return kUsage;
 }

@@ -6,11 +6,9 @@
 namespace quenfor::cli {
 
 // Document commands: read FILE, run one tool, write the document as the window saves it.
-bool isDocumentCommand(const QString& command);
 int runDocumentCommand(const CliArgs& args, const CliStreams& io);
 
 // Query commands: print UTF-8 lines.
-bool isQueryCommand(const QString& command);
 int runQueryCommand(const CliArgs& args, const CliStreams& io);
 
 } // namespace quenfor::cli

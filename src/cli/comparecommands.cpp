@@ -1,5 +1,6 @@
 #include "cli/comparecommands.h"
 
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "common/programfolders.h"
 #include "compare/comparetexts.h"
@@ -16,13 +17,15 @@ namespace {
 
 enum class Format { Text, Tsv, Invalid };
 
-// "--format tsv" arrives as "--format=tsv"; no other flag belongs to these commands.
+// Every --format given must name a known format; the last one counts.
 Format formatOf(const CliArgs& args) {
     Format format = Format::Text;
-    for (const QString& flag : args.flags) {
-        if (flag == u"--format=tsv")
+    for (const GivenOption& option : args.options) {
+        if (option.value == u"tsv")
             format = Format::Tsv;
-        else if (flag != u"--format=text")
+        else if (option.value == u"text")
+            format = Format::Text;
+        else
             return Format::Invalid;
     }
     return format;
@@ -71,7 +74,7 @@ private:
 int runEffectiveCommand(const CliArgs& args, const CliStreams& io) {
     const Format format = formatOf(args);
     if (args.positional.isEmpty() || format == Format::Invalid || args.inPlace || args.outFile)
-        return usage(io, u"effective [--format tsv] DATEI..."_s);
+        return usageOf(io, args.command);
     if (args.positional.count(u"-"_s) > 1) {
         io.message(u"Die Standardeingabe (-) lässt sich nur einmal lesen."_s);
         return kUsage;
@@ -98,7 +101,7 @@ int runEffectiveCommand(const CliArgs& args, const CliStreams& io) {
 int runDiffCommand(const CliArgs& args, const CliStreams& io) {
     const Format format = formatOf(args);
     if (args.positional.size() != 2 || format == Format::Invalid || args.inPlace || args.outFile)
-        return usage(io, u"diff [--format tsv] DATEI_A DATEI_B"_s);
+        return usageOf(io, args.command);
     if (args.positional.count(u"-"_s) > 1) {
         io.message(u"Die Standardeingabe (-) lässt sich nur einmal lesen."_s);
         return kUsage;
@@ -129,8 +132,7 @@ int runDiffCommand(const CliArgs& args, const CliStreams& io) {
 
 QString compareCommandHelp(const QString& command) {
     if (command == u"effective")
-        return u"quenfor-cli effective [--format tsv] DATEI...\n"
-               "  Zeigt, welcher Wert jeder Option gilt, wenn das CAD-System die Dateien lädt:\n"
+        return u"  Zeigt, welcher Wert jeder Option gilt, wenn das CAD-System die Dateien lädt:\n"
                "  jede config.sup (Name endet auf .sup) zuerst, dann die übrigen Dateien in der\n"
                "  angegebenen Reihenfolge, jede von oben nach unten. Ein späterer Wert ersetzt einen\n"
                "  früheren; was eine config.sup setzt, bleibt gesperrt. Wiederholbare Optionen\n"
@@ -140,14 +142,11 @@ QString compareCommandHelp(const QString& command) {
                "    NAME WERT  (DATEI:ZEILE)            der geltende Wert, \"gesperrt\" aus einer config.sup\n"
                "        überschreibt: WERT  (DATEI:ZEILE)                 frühere, ersetzte Werte\n"
                "        gesperrt durch config.sup: WERT  (DATEI:ZEILE)    spätere Werte ohne Wirkung\n"
-               "  --format tsv  je Zeile einer Datei: Name, Wert, Datei, Zeile, Zustand (effective,\n"
-               "                locked, overridden, refused), durch Tabulatoren getrennt\n"
                "  Steuerzeichen in Werten erscheinen als ^I usw.; DATEI - liest stdin (einmal).\n"
                "  Exit-Status 0 erledigt, 1 wenn eine DATEI fehlt, nicht lesbar ist oder Binärdaten\n"
                "  enthält (dann keine Ausgabe), 2 bei fehlerhaftem Aufruf.\n"_s;
     if (command == u"diff")
-        return u"quenfor-cli diff [--format tsv] DATEI_A DATEI_B\n"
-               "  Vergleicht, was zwei Konfigurationsdateien setzen, nicht ihre Zeilen: Reihenfolge,\n"
+        return u"  Vergleicht, was zwei Konfigurationsdateien setzen, nicht ihre Zeilen: Reihenfolge,\n"
                "  Groß- und Kleinschreibung der Optionsnamen, Kommentare, Leerzeilen und die Aufteilung\n"
                "  eines Mapkeys auf Zeilen zählen nicht. Je Datei gilt der letzte Wert einer Option;\n"
                "  Werte gelten als gleich, wenn sie sich nur in Groß- und Kleinschreibung oder der Zahl\n"
@@ -157,8 +156,6 @@ QString compareCommandHelp(const QString& command) {
                "    + NAME: WERT  (B:ZEILE)                  nur in B\n"
                "    - NAME: WERT  (A:ZEILE)                  nur in A\n"
                "    ~ NAME: ALT → NEU  (A:ZEILE → B:ZEILE)   geändert\n"
-               "  --format tsv  je Unterschied: added/removed/changed, option/mapkey, Name, alter Wert,\n"
-               "                neuer Wert, Zeile in A, Zeile in B, durch Tabulatoren getrennt\n"
                "  Exit-Status 0 gleich, 1 verschieden; 1 auch, wenn eine DATEI fehlt, nicht lesbar ist\n"
                "  oder Binärdaten enthält (dann Meldung auf stderr, keine Ausgabe); 2 bei fehlerhaftem\n"
                "  Aufruf.\n"_s;

@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "common/wholefile.h"
 
@@ -13,20 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace quenfor::cli {
 
-namespace {
-
-const QStringList kDocumentCommands = {u"cat"_s,   u"blank"_s,  u"dedupe"_s,    u"sort"_s,
-                                       u"lower"_s, u"repair"_s, u"categories"_s};
-
-} // namespace
-
-bool isDocumentCommand(const QString& command) {
-    return kDocumentCommands.contains(command);
-}
-
 int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
-    if (args.positional.size() != 1 || !args.flags.isEmpty())
-        return usage(io, u"%1 [OPTIONEN] DATEI"_s.arg(args.command));
+    if (args.positional.size() != 1)
+        return usageOf(io, args.command);
     const QString file = args.positional.front();
     if (args.inPlace && file == u"-") {
         io.message(u"-i geht nicht mit der Standardeingabe."_s);

@@ -3,6 +3,7 @@
 #include "cadfiles/drawingfoldercheck.h"
 #include "cadfiles/drawingmodel.h"
 #include "cadfiles/drawingmodellist.h"
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "common/fileexists.h"
 
@@ -42,8 +43,8 @@ void printCheck(const DrawingCheck& check, const CliStreams& io) {
 } // namespace
 
 int runDrwCheckCommand(const CliArgs& args, const CliStreams& io) {
-    if (args.positional.isEmpty() || !args.flags.isEmpty() || args.inPlace || args.outFile || args.kbFile)
-        return usage(io, u"drwcheck [--codepage NAME] PFAD..."_s);
+    if (args.positional.isEmpty() || args.inPlace || args.outFile || args.kbFile)
+        return usageOf(io, args.command);
     const QString codepage = encodingChoiceFor(args).codepage;
 
     int status = kOk;
@@ -86,8 +87,7 @@ int runDrwCheckCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 QString drwCheckCommandHelp() {
-    return u"quenfor-cli drwcheck [--codepage NAME] PFAD...\n"
-           "  \"Ist das Modell auch in der Zeichnung ?\": liest aus jeder Zeichnung den Namen des\n"
+    return u"  \"Ist das Modell auch in der Zeichnung ?\": liest aus jeder Zeichnung den Namen des\n"
            "  Modells, der in ihrer ersten Zeile ab Zeichen 725 steht, und vergleicht ihn mit dem\n"
            "  Zeichnungsnamen (Dateiname bis zum ersten Punkt, groß geschrieben). PFAD ist eine\n"
            "  Zeichnung oder ein Verzeichnis (dann alle Dateien \"*.drw*\" darin, nach Namen sortiert).\n"

@@ -1,5 +1,6 @@
 #include "cli/editcommands.h"
 
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "document/configdocument.h"
 #include "document/documentfile.h"
@@ -11,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace quenfor::cli {
 
 int runFavoriteCommand(const CliArgs& args, const CliStreams& io) {
-    if (args.positional.size() != 1 || !args.flags.isEmpty())
-        return usage(io, u"favorite ZEILE"_s);
+    if (args.positional.size() != 1)
+        return usageOf(io, args.command);
     const FavoriteParts parts = takeFavoriteApart(args.positional.front());
     if (!parts.isFavorite) {
         io.message(u"Die Zeile beginnt nicht mit \"browser_favorite\" oder \"BROWSER_FAVORITE\" und ist "
@@ -26,8 +27,8 @@ int runFavoriteCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 int runReplaceCommand(const CliArgs& args, const CliStreams& io) {
-    if (args.positional.size() != 3 || !args.flags.isEmpty())
-        return usage(io, u"replace [OPTIONEN] SUCHTEXT ERSATZ DATEI"_s);
+    if (args.positional.size() != 3)
+        return usageOf(io, args.command);
     const QString& file = args.positional.at(2);
     if (args.inPlace && file == u"-") {
         io.message(u"-i geht nicht mit der Standardeingabe."_s);
@@ -50,13 +51,13 @@ int runReplaceCommand(const CliArgs& args, const CliStreams& io) {
 
 QString editCommandHelp(const QString& command) {
     if (command == u"favorite")
-        return u"quenfor-cli favorite ZEILE\n  Zerlegt eine Favoritenzeile (browser_favorite VERZEICHNIS NAME) wie "
+        return u"  Zerlegt eine Favoritenzeile (browser_favorite VERZEICHNIS NAME) wie "
                u"der\n"
                "  Favoritenkonstruktor: gibt das Verzeichnis und den Namen aus, je eine Zeile.\n"
                "  Ein Name aus nur einem Zeichen wird nicht übernommen (leere Zeile); ein\n"
                "  Verzeichnis, das nicht existiert, meldet stderr.\n"_s;
     if (command == u"replace")
-        return u"quenfor-cli replace [OPTIONEN] SUCHTEXT ERSATZ DATEI\n  \"Ersetzen\": ersetzt in jeder Zeile das "
+        return u"  \"Ersetzen\": ersetzt in jeder Zeile das "
                u"erste "
                "Vorkommen von SUCHTEXT ohne\n  Rücksicht auf Groß- und Kleinschreibung durch ERSATZ. stderr nennt die "
                "Zahl\n  der geänderten Zeilen und \"ersetzt\". Ein leerer SUCHTEXT setzt ERSATZ vor jede\n"

@@ -2,6 +2,7 @@
 
 #include "cadfiles/findfile.h"
 #include "cadfiles/findpattern.h"
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "common/fileexists.h"
 
@@ -13,8 +14,6 @@ namespace quenfor::cli {
 
 namespace {
 
-const QString kFindSynopsis = u"find [--no-subfolders] [--mask N] ORDNER MUSTER"_s;
-
 // Hits are written in blocks: a tree can hold hundreds of thousands of them.
 constexpr qsizetype kFlushSize = 64 * 1024;
 
@@ -25,21 +24,13 @@ struct FindOptions {
     QString pattern;
 };
 
-// The options may stand anywhere among ORDNER and MUSTER; the common parser hands "--mask N" over
-// as one flag "--mask=N".
+// The options may stand anywhere among ORDNER and MUSTER; one mask only.
 std::optional<FindOptions> parseFindOptions(const CliArgs& args) {
     FindOptions options;
-    for (const QString& flag : args.flags) {
-        if (flag == u"--no-subfolders") {
-            options.inclSubfolders = false;
-        } else if (flag.startsWith(u"--mask=")) {
-            if (options.mask)
-                return std::nullopt;
-            options.mask = flag.mid(7);
-        } else {
-            return std::nullopt;
-        }
-    }
+    options.inclSubfolders = !args.has(u"--no-subfolders");
+    if (args.count(u"--mask") > 1)
+        return std::nullopt;
+    options.mask = args.value(u"--mask");
     if (args.positional.size() != 2 || args.inPlace || args.outFile || args.kbFile)
         return std::nullopt;
     options.folder = args.positional[0];
@@ -52,7 +43,7 @@ std::optional<FindOptions> parseFindOptions(const CliArgs& args) {
 int runFindCommand(const CliArgs& args, const CliStreams& io) {
     const std::optional<FindOptions> options = parseFindOptions(args);
     if (!options)
-        return usage(io, kFindSynopsis);
+        return usageOf(io, args.command);
 
     cFindFile finder;
     try {
@@ -108,16 +99,10 @@ int runFindCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 QString findCommandHelp() {
-    return u"quenfor-cli find [--no-subfolders] [--mask N] ORDNER MUSTER\n"
-           "  Dateisuche: listet alle Einträge von ORDNER und seinen Unterverzeichnissen, deren Name\n"
+    return u"  Dateisuche: listet alle Einträge von ORDNER und seinen Unterverzeichnissen, deren Name\n"
            "  zum MUSTER passt (ein Muster, keine Liste). Je Treffer eine Zeile: Verzeichnis,\n"
            "  Tabulator, Dateiname, Tabulator, Größe (32 Bit: ab 2 GiB falsch). Ausgabe UTF-8 mit LF.\n"
            "  Die Optionen dürfen vor, zwischen oder nach ORDNER und MUSTER stehen.\n"
-           "  --no-subfolders  nur ORDNER selbst durchsuchen\n"
-           "  --mask N         Attributmaske (Vorgabe 439): ein Eintrag wird nur gemeldet, wenn jedes\n"
-           "                   seiner Attribute auch in N gesetzt ist. Schreibgeschützt 1, versteckt\n"
-           "                   (Name beginnt mit \".\") 2, Verzeichnis 16, Archiv (normale Datei) 32,\n"
-           "                   normal (weder Datei noch Verzeichnis) 128. 33 = nur Dateien.\n"
            "  Verlinkte Verzeichnisse werden durchsucht, aber kein Verzeichnis zweimal.\n"_s +
            wildcardRulesHelp();
 }

@@ -1,5 +1,6 @@
 #include "cli/interpolatecommand.h"
 
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "desktools/interpolation.h"
 
@@ -10,8 +11,6 @@ using namespace Qt::StringLiterals;
 namespace quenfor::cli {
 
 namespace {
-
-const QString kInterpolateSynopsis = u"interpolate X1 Y1 X2 Y2 A"_s;
 
 // The window drops a character it does not take; a script gets told instead, so no value changes
 // behind its back.
@@ -24,17 +23,16 @@ void reportRefused(const CliStreams& io, const QString& field, const QString& te
 
 int runInterpolateCommand(const CliArgs& args, const CliStreams& io) {
     const std::array<QString, 5> names = {u"x1"_s, u"y1"_s, u"x2"_s, u"y2"_s, u"a"_s};
-    // A value like "-5" reaches us as a flag; the window takes no minus sign either.
-    for (const QString& flag : args.flags) {
-        if (flag.size() > 1 && (flag[1].isDigit() || flag[1] == u',' || flag[1] == u'.')) {
+    // The window takes no minus sign either.
+    for (const QString& value : args.positional) {
+        if (value.startsWith(u'-')) {
             io.message(onlyNumbersMessage());
-            io.message(u"„%1“: ein Minuszeichen nimmt die Interpolation nicht an."_s.arg(flag));
+            io.message(u"„%1“: ein Minuszeichen nimmt die Interpolation nicht an."_s.arg(value));
             return kFailed;
         }
     }
-    if (args.positional.size() != qsizetype(names.size()) || !args.flags.isEmpty() || args.inPlace || args.outFile ||
-        args.kbFile)
-        return usage(io, kInterpolateSynopsis);
+    if (args.positional.size() != qsizetype(names.size()) || args.inPlace || args.outFile || args.kbFile)
+        return usageOf(io, args.command);
 
     std::array<QString, 5> fields;
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -56,8 +54,7 @@ int runInterpolateCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 QString interpolateCommandHelp() {
-    return u"quenfor-cli interpolate X1 Y1 X2 Y2 A\n"
-           "  \"lineare Interpolation\": gibt b aus, wie das Fenster es zeigt:\n"
+    return u"  \"lineare Interpolation\": gibt b aus, wie das Fenster es zeigt:\n"
            "  b = ((a − x2) + (y1 − y2)) ÷ (x1 − x2) + y2 (die Differenzen werden addiert).\n"
            "  Zahlen mit Dezimalkomma; ein Punkt gilt als Komma, Vorzeichen und andere Zeichen\n"
            "  werden abgelehnt (\"Bitte nur Zahlen eingeben.\"). Beispiel: interpolate 0 0 10 10 5 gibt 11,5.\n"_s;

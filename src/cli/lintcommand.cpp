@@ -1,5 +1,6 @@
 #include "cli/lintcommand.h"
 
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "common/programfolders.h"
 #include "knowledge/optionreleases.h"
@@ -12,28 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace quenfor::cli {
 
-namespace {
-
-constexpr char16_t kCheckPaths[] = u"--check-paths";
-constexpr char16_t kRelease[] = u"--release=";
-constexpr char16_t kSynopsis[] = u"lint [--check-paths] [--release NAME] DATEI...";
-
-} // namespace
-
 int runLintCommand(const CliArgs& args, const CliStreams& io) {
     LintOptions options;
-    std::optional<QString> release;
-    bool badFlag = false;
-    for (const QString& flag : args.flags) {
-        if (flag == kCheckPaths)
-            options.checkPaths = true;
-        else if (flag.startsWith(kRelease) && !release)
-            release = flag.mid(QStringView(kRelease).size());
-        else
-            badFlag = true;
-    }
-    if (args.positional.isEmpty() || badFlag || args.inPlace || args.outFile)
-        return usage(io, QString::fromUtf16(kSynopsis));
+    options.checkPaths = args.has(u"--check-paths");
+    const std::optional<QString> release = args.value(u"--release");
+    if (args.positional.isEmpty() || args.count(u"--release") > 1 || args.inPlace || args.outFile)
+        return usageOf(io, u"lint");
     if (release) {
         if (!cadReleaseIndex(*release)) {
             io.message(u"Unbekannte Version \"%1\" – bekannt sind: %2"_s.arg(*release, cadReleaseNames()));
@@ -77,8 +62,7 @@ int runLintCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 QString lintCommandHelp() {
-    return u"quenfor-cli lint [--check-paths] [--release NAME] DATEI...\n"
-           "  Prüft Konfigurationsdateien und gibt je Befund eine Zeile \"DATEI:ZEILE: Meldung\" aus.\n"
+    return u"  Prüft Konfigurationsdateien und gibt je Befund eine Zeile \"DATEI:ZEILE: Meldung\" aus.\n"
            "  Die Zeilen zählen wie in der Liste des Fensters (Zeilenende CR LF oder CR).\n"
            "  Geprüft werden: Optionsnamen, die keine Liste kennt (mit Vorschlag \"meinten Sie ...?\";\n"
            "  .dtl gegen Zeichnungsoptionen, .pcf gegen Plotteroptionen), unterbrochene Mapkeys,\n"
@@ -91,15 +75,6 @@ QString lintCommandHelp() {
            "  werden als Zahlen verglichen (2 = 2.0); bei Optionen mit mehreren Wörtern nur das erste.\n"
            "  Werte, für die es keine Auswahl gibt (Zahlen, Pfade, freier Text), bleiben ungeprüft,\n"
            "  ebenso Werte in Anführungszeichen und mit Umgebungsvariablen.\n"
-           "  --check-paths   search.pro: auch melden, welche Verzeichnisse es nicht gibt (Pfade mit\n"
-           "                  Umgebungsvariablen wie $PRO_DIRECTORY bleiben ungeprüft)\n"
-           "  --release NAME  config.pro, config.sup, .dtl: auch melden, welche Optionen die Version\n"
-           "                  NAME nicht kennt oder nur als versteckte (nicht dokumentierte) Option\n"
-           "                  liest. NAME: "_s +
-           cadReleaseNames() +
-           u"\n"
-           "                  (WF4 = Wildfire 4.0, CEP5 = Creo Elements/Pro 5.0, CP6 = Creo Parametric 6.0).\n"
-           "                  Im Fenster gilt dafür die Einstellung \"Zielversion\".\n"
            "  Die Art einer Datei folgt aus ihrem Namen wie im Fenster; DATEI - liest stdin.\n"
            "  Exit-Status 0 ohne Befund, 1 bei Befunden oder wenn eine DATEI nicht lesbar ist,\n"
            "  2 bei fehlerhaftem Aufruf (auch bei unbekannter Version).\n"_s;

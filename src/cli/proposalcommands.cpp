@@ -1,5 +1,6 @@
 #include "cli/proposalcommands.h"
 
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "document/configdocument.h"
 #include "document/documentfile.h"
@@ -22,9 +23,9 @@ bool answerYes(const QString&) {
 
 // Reads FILE (standard input for "-", nothing without FILE) into a document, runs the tool on it
 // and writes the document as the window's save does.
-int appendToDocument(const CliArgs& args, const CliStreams& io, const QString& synopsis, const Tool& tool) {
-    if (args.positional.size() > 1 || !args.flags.isEmpty())
-        return usage(io, synopsis);
+int appendToDocument(const CliArgs& args, const CliStreams& io, const Tool& tool) {
+    if (args.positional.size() > 1)
+        return usageOf(io, args.command);
     const QString file = args.positional.value(0);
     if (args.inPlace && (file.isEmpty() || file == u"-")) {
         io.message(u"-i braucht eine DATEI, in die das Ergebnis zurückgeschrieben wird."_s);
@@ -50,22 +51,22 @@ int appendToDocument(const CliArgs& args, const CliStreams& io, const QString& s
 } // namespace
 
 int runProposalCommand(const CliArgs& args, const CliStreams& io) {
-    return appendToDocument(args, io, u"proposal [OPTIONEN] [DATEI]"_s, runProposal);
+    return appendToDocument(args, io, runProposal);
 }
 
 int runGhostCommand(const CliArgs& args, const CliStreams& io) {
-    return appendToDocument(args, io, u"ghost [OPTIONEN] [DATEI]"_s, runGhostOptions);
+    return appendToDocument(args, io, runGhostOptions);
 }
 
 QString proposalCommandHelp(const QString& command) {
     if (command == u"proposal")
-        return u"quenfor-cli proposal [DATEI]\n  \"config.pro Vorschlag\": hängt die 356 Zeilen des eingebauten "
+        return u"  \"config.pro Vorschlag\": hängt die 356 Zeilen des eingebauten "
                u"Vorschlags\n"
                "  (280 Optionen, danach Beispiel-Mapkeys) an die Zeilen von DATEI an; ohne DATEI\n"
                "  entsteht ein Dokument nur aus dem Vorschlag. Vorhandene Optionen werden nicht\n"
                "  gesucht: doppelte Einträge entfernt danach \"dedupe\".\n"_s;
     if (command == u"ghost")
-        return u"quenfor-cli ghost [DATEI]\n  Hängt die drei Ghost-Optionen fail_ref_copy_when_missing_orig,\n"
+        return u"  Hängt die drei Ghost-Optionen fail_ref_copy_when_missing_orig,\n"
                "  cleanup_drawing_dependencies und cleanup_layout_dependencies an die Zeilen von\n"
                "  DATEI an (ohne DATEI an ein leeres Dokument).\n"_s;
     return {};

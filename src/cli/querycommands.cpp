@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 
 #include "common/pathsplit.h"
@@ -19,7 +20,7 @@ namespace {
 
 int printKinds(const CliArgs& args, const CliStreams& io) {
     if (args.positional.size() != 1)
-        return usage(io, u"kinds DATEI"_s);
+        return usageOf(io, args.command);
     const QString& file = args.positional.front();
     const ReadResult read = readInput(file, args, io);
     if (!read.ok)
@@ -33,7 +34,7 @@ int printKinds(const CliArgs& args, const CliStreams& io) {
 
 int printFamily(const CliArgs& args, const CliStreams& io) {
     if (args.positional.size() != 1)
-        return usage(io, u"family NAME"_s);
+        return usageOf(io, args.command);
     const FileFamily f = fileFamilyOf(args.positional.front());
     io.print(QStringList{familyKindName(f.kind), f.pickerList, f.optionListFile, f.knowledgeBaseFile, f.defaultSaveName}
                  .join(u'\t') +
@@ -43,7 +44,7 @@ int printFamily(const CliArgs& args, const CliStreams& io) {
 
 int printMapkeySplit(const CliArgs& args, const CliStreams& io) {
     if (args.positional.size() != 1)
-        return usage(io, u"split-mapkey ZEILE"_s);
+        return usageOf(io, args.command);
     const QString& line = args.positional.front();
     ConfigDocument doc;
     doc.appendLine(line);
@@ -62,7 +63,7 @@ int printMapkeySplit(const CliArgs& args, const CliStreams& io) {
 
 int printExplanation(const CliArgs& args, const CliStreams& io) {
     if (args.positional.size() != 1)
-        return usage(io, u"explain [--kb DATEI] ZEILE"_s);
+        return usageOf(io, args.command);
     const QString dataFolder = args.dataDir.value_or(programDataFolder());
     const QString knowledgeBase = args.kbFile.value_or(joinFolderAndName(dataFolder, u"config_opts.txt"));
     const Explanation explanation = explainEntryLine(args.positional.front(), knowledgeBase, encodingChoiceFor(args));
@@ -79,10 +80,6 @@ int printExplanation(const CliArgs& args, const CliStreams& io) {
 }
 
 } // namespace
-
-bool isQueryCommand(const QString& command) {
-    return command == u"kinds" || command == u"family" || command == u"split-mapkey" || command == u"explain";
-}
 
 int runQueryCommand(const CliArgs& args, const CliStreams& io) {
     if (args.command == u"kinds")

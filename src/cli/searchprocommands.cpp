@@ -1,5 +1,6 @@
 #include "cli/searchprocommands.h"
 
+#include "cli/commandtable.h"
 #include "cli/documentio.h"
 #include "document/documentfile.h"
 #include "knowledge/searchprowalk.h"
@@ -9,8 +10,8 @@ using namespace Qt::StringLiterals;
 namespace quenfor::cli {
 
 int runSearchProCommand(const CliArgs& args, const CliStreams& io) {
-    if (args.positional.size() != 1 || !args.flags.isEmpty() || args.inPlace)
-        return usage(io, u"searchpro [--codepage NAME] [-o DATEI] ORDNER"_s);
+    if (args.positional.size() != 1 || args.inPlace)
+        return usageOf(io, args.command);
     const SearchProWalkResult walk = SearchProWalk().run(args.positional.front());
     if (!walk.error.isEmpty()) {
         io.message(walk.error);
@@ -27,8 +28,7 @@ int runSearchProCommand(const CliArgs& args, const CliStreams& io) {
 }
 
 QString searchProCommandHelp() {
-    return u"quenfor-cli searchpro [--codepage NAME] [-o DATEI] ORDNER\n"
-           "  \"search.pro-Generator\": listet alle Verzeichnisse unterhalb von ORDNER, erst die\n"
+    return u"  \"search.pro-Generator\": listet alle Verzeichnisse unterhalb von ORDNER, erst die\n"
            "  Unterverzeichnisse von ORDNER, dann deren Unterverzeichnisse, Ebene für Ebene, jede\n"
            "  Ebene nach Namen sortiert. Versteckte Verzeichnisse fehlen (stderr\n"
            "  nennt sie); verlinkte Verzeichnisse werden aufgeführt, aber nicht durchsucht.\n"

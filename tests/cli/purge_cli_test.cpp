@@ -1,9 +1,7 @@
-// purge and clean from the command line: the binary as scripts run it, and the same commands in
-// process so they are checked even before a build wires them into the dispatcher.
+// purge and clean from the command line: the binary as scripts run it, and the same command lines
+// run in process, where the test can point the settings at its own store.
 
-#include "cli/cliargs.h"
 #include "cli/clirunner.h"
-#include "cli/purgecommands.h"
 #include "clitest.h"
 #include "settings/settingsstore.h"
 
@@ -30,17 +28,14 @@ protected:
 
     void TearDown() override { quenfor::SettingsStore::setStoreRoot(QString()); }
 
-    // Runs a command in process; status, stdout and stderr.
+    // Runs a command line in process; status, stdout and stderr.
     CliRun runHere(const QStringList& args) const {
-        quenfor::cli::CliArgs parsed;
-        EXPECT_FALSE(quenfor::cli::parseArgs(args, parsed).has_value());
         QBuffer in, out, err;
         in.open(QIODevice::ReadOnly);
         out.open(QIODevice::WriteOnly);
         err.open(QIODevice::WriteOnly);
         const quenfor::cli::CliStreams io{in, out, err};
-        const int status = parsed.command == u"purge"_s ? quenfor::cli::runPurgeCommand(parsed, io)
-                                                        : quenfor::cli::runCleanCommand(parsed, io);
+        const int status = quenfor::cli::runCli(args, io);
         return {status, out.data(), QString::fromUtf8(err.data())};
     }
 
@@ -136,7 +131,7 @@ TEST_F(PurgeCliTest, binaryPurgesAndCleans) {
     if (probe.err.contains(u"Unbekannter Befehl"_s))
         GTEST_SKIP() << "purge is not wired into this build's quenfor-cli yet";
     EXPECT_EQ(probe.out, lines({u"w/p.prt.1"_s, u"w/p.prt.2"_s}));
-    // The value behind --patterns is found in the real argument list, wherever the folder stands.
+    // The value behind --patterns goes with it, wherever the folder stands.
     const CliRun clean = run({u"clean"_s, path(u"w"_s), u"-r"_s, u"--patterns"_s, u"*.txt*"_s});
     EXPECT_EQ(clean.status, 0) << clean.err.toStdString();
     EXPECT_EQ(clean.out, lines({u"w/sub/note.txt"_s}));

@@ -9,13 +9,13 @@
 #include "settings/mainsettings.h"
 #include "settings/storeddrive.h"
 #include "ui/widgets/backgroundjob.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/statushints.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
-#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -51,8 +51,7 @@ constexpr int kCheckProgressIntervalMs = 100;
 } // namespace
 
 DrawingCheckerWindow::DrawingCheckerWindow(QWidget* parent)
-    : QWidget(parent, Qt::Window), m_codepage(settingValue(Setting::Codepage)),
-      m_folderModel(new QFileSystemModel(this)), m_progressTimer(new QTimer(this)) {
+    : QWidget(parent, Qt::Window), m_codepage(settingValue(Setting::Codepage)), m_progressTimer(new QTimer(this)) {
     setObjectName(u"frm_drw_mdl_checker"_s);
     setWindowTitle(tr("drw_mdl_checker"));
     buildWidgets();
@@ -78,16 +77,15 @@ void DrawingCheckerWindow::buildWidgets() {
     infoFont.setBold(true);
     info->setFont(infoFont);
 
-    m_drives = makeDriveBox(this);
-    connect(m_drives, &QComboBox::activated, this, &DrawingCheckerWindow::chooseDrive);
+    m_chooser = new DriveFolderChooser(this);
+    m_drives = m_chooser->driveBox();
+    m_folderTree = m_chooser->folderTree();
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &DrawingCheckerWindow::showFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
+            [this] { m_status->setText(tr("Laufwerk nicht verfügbar !")); });
     m_hints->add(m_drives, tr("Laufwerk wählen"));
 
-    m_folderTree = makeFolderTree(this, m_folderModel);
     m_folderTree->setMinimumSize(260, 14 * fontMetrics().lineSpacing());
-    connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &DrawingCheckerWindow::showCurrentFolder);
-    // The rows above the chosen folder arrive later from the model's thread; keep it in view.
-    keepCurrentFolderInView(m_folderTree, m_folderModel);
     m_hints->add(m_folderTree, tr("Verzeichnis mit den Zeichnungen wählen"));
 
     m_files = new QListWidget(this);
@@ -196,41 +194,15 @@ void DrawingCheckerWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool DrawingCheckerWindow::setCurrentFolder(const QString& folder) {
-    const QModelIndex index =
-        folderExists(folder) ? m_folderModel->index(QDir::fromNativeSeparators(folder)) : QModelIndex();
-    if (!index.isValid()) {
-        m_status->setText(tr("Das Verzeichnis \"%1\" gibt es nicht.").arg(QDir::toNativeSeparators(folder)));
-        return false;
-    }
-    m_folderTree->setCurrentIndex(index);
-    m_folderTree->expand(index);
-    m_folderTree->scrollTo(index);
-    // Setting the same index again announces nothing; the list must still show this folder.
-    showCurrentFolder();
-    return true;
+    if (m_chooser->setCurrentFolder(folder))
+        return true;
+    m_status->setText(tr("Das Verzeichnis \"%1\" gibt es nicht.").arg(QDir::toNativeSeparators(folder)));
+    return false;
 }
 
-void DrawingCheckerWindow::showCurrentFolder() {
-    const QModelIndex index = m_folderTree->currentIndex();
-    if (!index.isValid())
-        return;
-    m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
-    selectDriveOfFolder();
+void DrawingCheckerWindow::showFolder(const QString& folder) {
+    m_folder = folder;
     refreshFiles();
-}
-
-void DrawingCheckerWindow::selectDriveOfFolder() {
-    selectDriveOf(m_drives, m_folder);
-}
-
-void DrawingCheckerWindow::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (folderExists(root)) {
-        setCurrentFolder(root);
-        return;
-    }
-    m_status->setText(tr("Laufwerk nicht verfügbar !"));
-    selectDriveOfFolder();
 }
 
 void DrawingCheckerWindow::refreshFiles() {

@@ -6,7 +6,6 @@
 #include <memory>
 
 class QComboBox;
-class QFileSystemModel;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -18,6 +17,7 @@ class QTreeView;
 
 namespace quenfor {
 
+class DriveFolderChooser;
 class StatusHints;
 struct DrawingCheckJob;
 
@@ -56,9 +56,7 @@ protected:
 private:
     void buildWidgets();
     void restoreSettings();
-    void chooseDrive(int index);
-    void showCurrentFolder();
-    void selectDriveOfFolder();
+    void showFolder(const QString& folder);
     void refreshFiles();
     void fileClicked(QListWidgetItem* item);
     void differingClicked(QListWidgetItem* item);
@@ -72,9 +70,9 @@ private:
     QString m_codepage;
     std::shared_ptr<DrawingCheckJob> m_job;
 
-    QFileSystemModel* m_folderModel;
     QTimer* m_progressTimer;
     StatusHints* m_hints = nullptr;
+    DriveFolderChooser* m_chooser = nullptr;
     QComboBox* m_drives = nullptr;
     QTreeView* m_folderTree = nullptr;
     QListWidget* m_files = nullptr;

@@ -10,6 +10,7 @@
 #include "common/fileexists.h"
 #include "common/pathsplit.h"
 #include "ui/widgets/dialogs.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/formwidgets.h"
 #include "ui/widgets/panelheader.h"
@@ -21,7 +22,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -60,8 +60,8 @@ QListView* makeList(const QString& name, QStringListModel* model, QWidget* paren
 } // namespace
 
 PurgeWindow::PurgeWindow(QWidget* parent)
-    : QWidget(parent, Qt::Window), m_folderModel(new QFileSystemModel(this)), m_files(new QStringListModel(this)),
-      m_purge(new QStringListModel(this)), m_cleanFiles(new QStringListModel(this)), m_sliceTimer(new QTimer(this)) {
+    : QWidget(parent, Qt::Window), m_files(new QStringListModel(this)), m_purge(new QStringListModel(this)),
+      m_cleanFiles(new QStringListModel(this)), m_sliceTimer(new QTimer(this)) {
     setObjectName(u"frmPurge"_s);
     setWindowTitle(tr("Dr.Fegel"));
     buildWidgets();
@@ -82,13 +82,15 @@ void PurgeWindow::buildWidgets() {
     m_hints = new StatusHints(m_status, this);
 
     // Drive, folder and the folder's files.
-    m_drives = makeDriveBox(this);
-    connect(m_drives, &QComboBox::activated, this, &PurgeWindow::chooseDrive);
-    m_folderTree = makeFolderTree(this, m_folderModel);
+    m_chooser = new DriveFolderChooser(this);
+    m_drives = m_chooser->driveBox();
+    m_folderTree = m_chooser->folderTree();
     m_folderTree->setMinimumWidth(260);
-    connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &PurgeWindow::showCurrentFolder);
-    keepCurrentFolderInView(m_folderTree, m_folderModel);
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &PurgeWindow::showFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this, [this] {
+        m_status->setText(tr("Laufwerk nicht verfügbar !"));
+        refreshFileLists();
+    });
     m_fileList = makeList(u"File1"_s, m_files, this);
     connect(m_fileList, &QListView::clicked, this,
             [this](const QModelIndex& index) { showChangeTime(index, m_files, false); });
@@ -255,31 +257,14 @@ QWidget* PurgeWindow::buildOptionsFrame() {
 }
 
 void PurgeWindow::setCurrentFolder(const QString& folder) {
-    if (!showFolderInTree(m_folderTree, m_folderModel, folder)) {
+    if (!m_chooser->setCurrentFolder(folder))
         m_status->setText(tr("Das Verzeichnis \"%1\" existiert nicht.").arg(QDir::toNativeSeparators(folder)));
-        return;
-    }
-    showCurrentFolder();
 }
 
-void PurgeWindow::showCurrentFolder() {
-    const QModelIndex index = m_folderTree->currentIndex();
-    if (!index.isValid())
-        return;
-    m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
-    selectDriveOf(m_drives, m_folder);
+void PurgeWindow::showFolder(const QString& folder) {
+    m_folder = folder;
     // The purge list is left alone: the analysis is an explicit step.
     refreshFileLists();
-}
-
-void PurgeWindow::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (folderExists(root)) {
-        setCurrentFolder(root);
-        return;
-    }
-    m_status->setText(tr("Laufwerk nicht verfügbar !"));
-    showCurrentFolder();
 }
 
 void PurgeWindow::refreshFileLists() {
@@ -466,8 +451,7 @@ void PurgeWindow::setRunning(bool running) {
     m_cancel->setVisible(running);
     for (QPushButton* button : std::as_const(m_actionButtons))
         button->setEnabled(!running);
-    m_folderTree->setEnabled(!running);
-    m_drives->setEnabled(!running);
+    m_chooser->setEnabled(!running);
 }
 
 void PurgeWindow::showChangeTime(const QModelIndex& index, const QStringListModel* model, bool fullPaths) {

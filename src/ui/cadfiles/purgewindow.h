@@ -7,7 +7,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QFileSystemModel;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -21,6 +20,7 @@ class QTreeView;
 
 namespace quenfor {
 
+class DriveFolderChooser;
 class StatusHints;
 class TreeRun;
 
@@ -60,8 +60,7 @@ protected:
 private:
     void buildWidgets();
     QWidget* buildOptionsFrame();
-    void chooseDrive(int index);
-    void showCurrentFolder();
+    void showFolder(const QString& folder);
     void refreshFileLists();
     void applyPatternText(const QString& text); // shows the text and makes the clean list follow it
     void showPatternText(const QString& text);  // text box and extensions list only
@@ -87,12 +86,12 @@ private:
     bool m_cancelRequested = false;
     bool m_inSlice = false;
 
-    QFileSystemModel* m_folderModel;
     QStringListModel* m_files;
     QStringListModel* m_purge;
     QStringListModel* m_cleanFiles;
     QTimer* m_sliceTimer;
     StatusHints* m_hints = nullptr;
+    DriveFolderChooser* m_chooser = nullptr;
     QComboBox* m_drives = nullptr;
     QTreeView* m_folderTree = nullptr;
     QListView* m_fileList = nullptr;

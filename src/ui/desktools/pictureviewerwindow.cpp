@@ -12,13 +12,13 @@
 #include "ui/desktools/emptyondoubleclick.h"
 #include "ui/desktools/picturescroller.h"
 #include "ui/desktools/qtpicturedecoder.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/folderwidgets.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
-#include <QFileSystemModel>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -68,7 +68,7 @@ void setColours(QWidget* widget, QPalette::ColorRole backgroundRole, QPalette::C
 } // namespace
 
 PictureViewerWindow::PictureViewerWindow(PictureViewerLinks links, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_links(std::move(links)), m_folderModel(new QFileSystemModel(this)) {
+    : QWidget(parent, Qt::Window), m_links(std::move(links)) {
     setObjectName(u"vistrel"_s);
     setWindowTitle(tr("quenfor Bildbetrachter"));
     buildWidgets();
@@ -80,16 +80,15 @@ PictureViewerWindow::PictureViewerWindow(PictureViewerLinks links, QWidget* pare
 PictureViewerWindow::~PictureViewerWindow() = default;
 
 void PictureViewerWindow::buildWidgets() {
-    m_drives = makeDriveBox(this);
+    m_chooser = new DriveFolderChooser(this);
+    m_drives = m_chooser->driveBox();
+    m_folderTree = m_chooser->folderTree();
     // A long mount path must not widen the browser at the picture's cost; the list shows it whole.
     m_drives->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_drives->setMinimumContentsLength(8);
-    connect(m_drives, &QComboBox::activated, this, &PictureViewerWindow::chooseDrive);
-
-    m_folderTree = makeFolderTree(this, m_folderModel);
-    connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &PictureViewerWindow::showCurrentFolder);
-    keepCurrentFolderInView(m_folderTree, m_folderModel);
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &PictureViewerWindow::showFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
+            [this](const QString& root) { setStatus(driveNotAvailableText(root)); });
 
     m_files = new QListWidget(this);
     m_files->setObjectName(u"File1"_s);
@@ -177,32 +176,15 @@ void PictureViewerWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool PictureViewerWindow::setCurrentFolder(const QString& folder) {
-    if (!folderExists(folder) || !showFolderInTree(m_folderTree, m_folderModel, folder)) {
-        setStatus(folderMissingText(QDir::toNativeSeparators(folder)));
-        return false;
-    }
-    // Choosing the folder that is already current announces nothing; File1 must still show it.
-    showCurrentFolder();
-    return true;
+    if (m_chooser->setCurrentFolder(folder))
+        return true;
+    setStatus(folderMissingText(QDir::toNativeSeparators(folder)));
+    return false;
 }
 
-void PictureViewerWindow::showCurrentFolder() {
-    const QModelIndex index = m_folderTree->currentIndex();
-    if (!index.isValid())
-        return;
-    m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
-    selectDriveOf(m_drives, m_folder);
+void PictureViewerWindow::showFolder(const QString& folder) {
+    m_folder = folder;
     refreshFiles();
-}
-
-void PictureViewerWindow::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (folderExists(root)) {
-        setCurrentFolder(root);
-        return;
-    }
-    setStatus(driveNotAvailableText(root));
-    selectDriveOf(m_drives, m_folder);
 }
 
 void PictureViewerWindow::refreshFiles() {

@@ -9,7 +9,6 @@
 #include <functional>
 
 class QComboBox;
-class QFileSystemModel;
 class QFrame;
 class QLabel;
 class QLineEdit;
@@ -21,6 +20,7 @@ class QUrl;
 
 namespace quenfor {
 
+class DriveFolderChooser;
 struct ViewerScheme;
 
 // What the viewer reaches outside itself. Empty entries fall back to the system (the desktop's
@@ -68,8 +68,7 @@ protected:
 private:
     void buildWidgets();
     void restoreSettings();
-    void chooseDrive(int index);
-    void showCurrentFolder();
+    void showFolder(const QString& folder);
     void refreshFiles();
     void fileChosen(int row);
     void showPicture(const QPixmap& picture);
@@ -99,7 +98,7 @@ private:
     QColor m_background;
     QPixmap m_picture;
 
-    QFileSystemModel* m_folderModel;
+    DriveFolderChooser* m_chooser = nullptr;
     QComboBox* m_drives = nullptr;
     QTreeView* m_folderTree = nullptr;
     QListWidget* m_files = nullptr;

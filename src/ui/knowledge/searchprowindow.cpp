@@ -5,6 +5,7 @@
 #include "knowledge/searchprowalk.h"
 #include "ui/widgets/backgroundjob.h"
 #include "ui/widgets/dialogs.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/formwidgets.h"
 #include "ui/widgets/panelheader.h"
@@ -13,7 +14,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
-#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -49,8 +49,8 @@ constexpr int kWalkProgressIntervalMs = 100;
 } // namespace
 
 SearchProWindow::SearchProWindow(const QString& startFolder, QWidget* parent, const FolderLister& lister)
-    : QWidget(parent, Qt::Window), m_lister(lister), m_folderModel(new QFileSystemModel(this)),
-      m_entries(new QStringListModel(this)), m_progressTimer(new QTimer(this)) {
+    : QWidget(parent, Qt::Window), m_lister(lister), m_entries(new QStringListModel(this)),
+      m_progressTimer(new QTimer(this)) {
     setObjectName(u"search_pro"_s);
     setWindowTitle(tr("search.pro-Generator +Q+U+E+N+F+O+R+"));
     buildWidgets();
@@ -72,15 +72,14 @@ void SearchProWindow::buildWidgets() {
     m_hints = new StatusHints(m_status, this);
 
     // Drive and folder: the folder list shows only folders, hidden ones left out like the walk does.
-    m_drives = makeDriveBox(this);
-    connect(m_drives, &QComboBox::activated, this, &SearchProWindow::chooseDrive);
-
-    m_folderTree = makeFolderTree(this, m_folderModel);
+    m_chooser = new DriveFolderChooser(this);
+    m_drives = m_chooser->driveBox();
+    m_folderTree = m_chooser->folderTree();
     m_folderTree->setMinimumSize(280, 12 * fontMetrics().lineSpacing());
-    connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &SearchProWindow::showCurrentFolder);
-    // The rows above the chosen folder arrive later from the model's thread; keep it in view.
-    keepCurrentFolderInView(m_folderTree, m_folderModel);
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &SearchProWindow::showFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this, [this](const QString& root) {
+        Dialogs::information(this, tr("Das Laufwerk \"%1\" ist nicht bereit.").arg(root));
+    });
     m_hints->add(m_folderTree, SearchProHints::folderList());
 
     auto* startCaption = new QLabel(tr("Start-Verzeichnis :"), this);
@@ -197,33 +196,14 @@ void SearchProWindow::buildWidgets() {
 }
 
 void SearchProWindow::setCurrentFolder(const QString& folder) {
-    if (!showFolderInTree(m_folderTree, m_folderModel, folder)) {
+    if (!m_chooser->setCurrentFolder(folder))
         m_status->setText(tr("Der Ordner \"%1\" existiert nicht.").arg(QDir::toNativeSeparators(folder)));
-        return;
-    }
-    // Setting the same index again announces nothing; the folder shown must still be this one.
-    showCurrentFolder();
 }
 
-void SearchProWindow::showCurrentFolder() {
-    const QModelIndex index = m_folderTree->currentIndex();
-    if (!index.isValid())
-        return;
-    m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
+void SearchProWindow::showFolder(const QString& folder) {
+    m_folder = folder;
     m_startFolder->setText(m_folder);
     m_hints->add(m_createFile, SearchProHints::createFile(m_folder));
-    selectDriveOf(m_drives, m_folder);
-}
-
-void SearchProWindow::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (folderExists(root)) {
-        setCurrentFolder(root);
-        return;
-    }
-    // A drive without a medium, or one that went away since the list was filled.
-    Dialogs::information(this, tr("Das Laufwerk \"%1\" ist nicht bereit.").arg(root));
-    showCurrentFolder();
 }
 
 void SearchProWindow::generate() {

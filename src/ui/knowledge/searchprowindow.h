@@ -8,7 +8,6 @@
 #include <memory>
 
 class QComboBox;
-class QFileSystemModel;
 class QLabel;
 class QListView;
 class QPlainTextEdit;
@@ -20,6 +19,7 @@ class QTreeView;
 
 namespace quenfor {
 
+class DriveFolderChooser;
 class StatusHints;
 struct SearchProJob;
 
@@ -65,8 +65,7 @@ protected:
 
 private:
     void buildWidgets();
-    void chooseDrive(int index);
-    void showCurrentFolder();
+    void showFolder(const QString& folder);
     void showProgress();
     void finishGeneration();
     void setRunning(bool running);
@@ -80,10 +79,10 @@ private:
     QString m_folder;
     std::shared_ptr<SearchProJob> m_job;
 
-    QFileSystemModel* m_folderModel;
     QStringListModel* m_entries;
     QTimer* m_progressTimer;
     StatusHints* m_hints = nullptr;
+    DriveFolderChooser* m_chooser = nullptr;
     QComboBox* m_drives = nullptr;
     QTreeView* m_folderTree = nullptr;
     QLabel* m_startFolder = nullptr;

@@ -88,6 +88,18 @@ private slots:
                  u"purged alle Unterverzeichnisse abwärts der gewählten Position"_s);
     }
 
+    void anUnreadableDriveIsToldAndTheShownOneStays() {
+        PurgeWindow window;
+        auto* drives = window.findChild<QComboBox*>(u"Drive1"_s);
+        const int shown = drives->currentIndex();
+        drives->addItem(path(u"kein Laufwerk"_s));
+        drives->setCurrentIndex(drives->count() - 1);
+        emit drives->activated(drives->count() - 1);
+        QCOMPARE(statusOf(window), u"Laufwerk nicht verfügbar !"_s);
+        QCOMPARE(drives->currentIndex(), shown);
+        QCOMPARE(window.currentFolder(), path(u"w"_s));
+    }
+
     void changingTheFolderKeepsTheAnalysis() {
         PurgeWindow window;
         window.setCurrentFolder(path(u"other"_s));

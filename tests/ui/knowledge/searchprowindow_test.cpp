@@ -168,6 +168,25 @@ private slots:
         QCOMPARE(chosen.value(0).value(0).toString(), root + u"search.pro"_s);
     }
 
+    void anUnreadableDriveIsToldAndTheShownOneStays() {
+        SearchProWindow window(m_tree.path());
+        auto* drives = child<QComboBox>(window, u"Drive1"_s);
+        const int shown = drives->currentIndex();
+        const QString missing = QDir::toNativeSeparators(m_tree.filePath(u"kein Laufwerk"_s));
+        drives->addItem(missing);
+        QStringList told;
+        Dialogs::setHandler([&told](const Dialogs::Request& request) {
+            told.append(request.text);
+            return Dialogs::Reply{};
+        });
+        drives->setCurrentIndex(drives->count() - 1);
+        emit drives->activated(drives->count() - 1);
+        Dialogs::setHandler({});
+        QCOMPARE(told, QStringList{u"Das Laufwerk \"%1\" ist nicht bereit."_s.arg(missing)});
+        QCOMPARE(drives->currentIndex(), shown);
+        QCOMPARE(window.currentFolder(), QDir::toNativeSeparators(m_tree.path()));
+    }
+
     void closeButtonTellsTheMainWindow() {
         SearchProWindow window(m_tree.path());
         window.show();
