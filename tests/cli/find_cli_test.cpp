@@ -98,14 +98,6 @@ TEST_F(FindCliTest, OptionsMayStandAfterTheFolderAndPattern) {
     EXPECT_TRUE(missing.out.isEmpty());
 }
 
-TEST_F(FindCliTest, HelpOfFindAndCleanStatesTheOneWildcardRule) {
-    for (const QString& command : {u"find"_s, u"clean"_s}) {
-        const CliRun r = run({command, u"--help"_s});
-        EXPECT_EQ(r.status, 0);
-        EXPECT_TRUE(QString::fromUtf8(r.out).contains(u"dieselbe Regel für find und clean"_s)) << r.out.toStdString();
-    }
-}
-
 TEST_F(FindCliTest, BadInputIsToldAndNothingIsPrinted) {
     struct Case {
         QStringList args;

@@ -46,10 +46,6 @@ TEST_F(InterpolateCliTest, WrongNumberOfValuesIsAUsageError) {
     const CliRun r = run({u"interpolate"_s, u"0"_s, u"0"_s, u"10"_s, u"10"_s});
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.err.contains(u"interpolate X1 Y1 X2 Y2 A"_s)) << r.err.toStdString();
-
-    const CliRun help = run({u"interpolate"_s, u"--help"_s});
-    EXPECT_EQ(help.status, 0);
-    EXPECT_TRUE(help.out.contains("lineare Interpolation"));
 }
 
 } // namespace

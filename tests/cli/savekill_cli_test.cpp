@@ -9,6 +9,7 @@
 #include <QThread>
 
 #include <csignal>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -41,19 +42,23 @@ TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
     const QByteArray oldHash = hashOf(oldBytes);
     const QByteArray newHash = hashOf(newBytes);
 
-    // How long a whole run takes here, so the kills spread over reading, work and writing.
+    // How long a whole run takes here, so the kills spread over reading, work and writing. The
+    // shortest of three: a slow first run (cold caches) would put most kills after the end.
     const QString target = path(u"config.pro"_s);
-    QElapsedTimer clock;
-    clock.start();
-    write(u"config.pro"_s, oldBytes);
-    ASSERT_EQ(run({u"lower"_s, u"-i"_s, target}).status, 0);
-    const qint64 fullRunMs = qMax<qint64>(clock.elapsed(), 20);
+    qint64 fullRunMs = std::numeric_limits<qint64>::max();
+    for (int round = 0; round < 3; ++round) {
+        write(u"config.pro"_s, oldBytes);
+        QElapsedTimer clock;
+        clock.start();
+        ASSERT_EQ(run({u"lower"_s, u"-i"_s, target}).status, 0);
+        fullRunMs = qMin(fullRunMs, qMax<qint64>(clock.elapsed(), 20));
+    }
 
     QRandomGenerator random(QRandomGenerator::global()->generate());
     int killed = 0;
     int sawOld = 0;
     int sawNew = 0;
-    for (int attempt = 0; killed < 25 && attempt < 200; ++attempt) {
+    for (int attempt = 0; killed < 25 && attempt < 400; ++attempt) {
         write(u"config.pro"_s, oldBytes);
         QProcess process;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
