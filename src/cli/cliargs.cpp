@@ -35,8 +35,8 @@ const CommandOption* findOption(const QList<CommandOption>& options, QStringView
 
 // Before the command word is read, an option takes a value when it does so for some command.
 const CommandOption* anyCommandOption(QStringView name) {
-    for (const CommandSpec& spec : commandTable()) {
-        if (const CommandOption* option = findOption(spec.options, name))
+    for (const CommandEntry& entry : commandTable()) {
+        if (const CommandOption* option = findOption(entry.options, name))
             return option;
     }
     return nullptr;
@@ -91,8 +91,8 @@ std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
         const CommandOption* common = findOption(commonOptions(), name);
         const CommandOption* option = common;
         if (!option) {
-            const CommandSpec* spec = findCommandSpec(out.command);
-            option = spec ? findOption(spec->options, name) : anyCommandOption(name);
+            const CommandEntry* entry = findCommandEntry(out.command);
+            option = entry ? findOption(entry->options, name) : anyCommandOption(name);
         }
         std::optional<QString> value = inlineValue;
         if (option && option->takesValue() && !value) {
@@ -112,14 +112,14 @@ std::optional<QString> parseArgs(const QStringList& args, CliArgs& out) {
         return u"-i und -o schließen einander aus."_s;
 
     // An unknown command is reported as such by the runner; a help request shows the help anyway.
-    const CommandSpec* spec = findCommandSpec(out.command);
-    if (!spec || out.help)
+    const CommandEntry* entry = findCommandEntry(out.command);
+    if (!entry || out.help)
         return std::nullopt;
     for (const Given& g : given) {
-        const CommandOption* option = findOption(spec->options, g.name);
+        const CommandOption* option = findOption(entry->options, g.name);
         if (!option)
-            return u"Unbekannte Option %1 für den Befehl %2.\nAufruf: quenfor-cli %3"_s.arg(g.name, spec->name,
-                                                                                            synopsisOf(*spec));
+            return u"Unbekannte Option %1 für den Befehl %2.\nAufruf: quenfor-cli %3"_s.arg(g.name, entry->name,
+                                                                                            synopsisOf(*entry));
         if (option->takesValue() && !g.value)
             return u"Die Option %1 braucht einen Wert."_s.arg(g.name);
         if (!option->takesValue() && g.value)

@@ -43,8 +43,8 @@ int runCli(const QStringList& argList, const CliStreams& io) {
         io.print(help);
         return kOk;
     }
-    if (const CommandSpec* spec = findCommandSpec(args.command))
-        return spec->run(args, io);
+    if (const CommandEntry* entry = findCommandEntry(args.command))
+        return entry->run(args, io);
     io.message(u"Unbekannter Befehl: %1 (quenfor-cli --help zeigt alle Befehle)"_s.arg(args.command));
     return kUsage;
 }

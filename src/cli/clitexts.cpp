@@ -80,27 +80,27 @@ QString overviewHelp() {
                    "Aufruf:\n  quenfor-cli BEFEHL [OPTIONEN] [ARGUMENTE]\n  quenfor-cli --help | BEFEHL --help\n"
                    "  quenfor-cli --version\n"_s;
     qsizetype width = 0;
-    for (const CommandSpec& spec : commandTable())
-        width = std::max(width, spec.name.size());
+    for (const CommandEntry& entry : commandTable())
+        width = std::max(width, entry.name.size());
     std::optional<CommandGroup> group;
-    for (const CommandSpec& spec : commandTable()) {
-        if (spec.group != group) {
-            group = spec.group;
-            text += u'\n' + groupHeading(spec.group) + u'\n';
+    for (const CommandEntry& entry : commandTable()) {
+        if (entry.group != group) {
+            group = entry.group;
+            text += u'\n' + groupHeading(entry.group) + u'\n';
         }
-        text += u"  "_s + spec.name.leftJustified(width + 2) + spec.summary + u'\n';
+        text += u"  "_s + entry.name.leftJustified(width + 2) + entry.summary + u'\n';
     }
     return text + u'\n' + commonOptionsHelp() +
            u"\nRückgabewert: 0 erledigt, 1 nicht möglich (Meldung auf stderr), 2 Aufruf fehlerhaft.\n"_s;
 }
 
 QString commandHelp(const QString& command) {
-    const CommandSpec* spec = findCommandSpec(command);
-    if (!spec)
+    const CommandEntry* entry = findCommandEntry(command);
+    if (!entry)
         return {};
-    QString text = u"quenfor-cli "_s + synopsisOf(*spec) + u'\n' + spec->details();
-    if (!spec->options.isEmpty())
-        text += u"Optionen:\n"_s + optionLines(spec->options);
+    QString text = u"quenfor-cli "_s + synopsisOf(*entry) + u'\n' + entry->details();
+    if (!entry->options.isEmpty())
+        text += u"Optionen:\n"_s + optionLines(entry->options);
     return text + u'\n' + commonOptionsHelp();
 }
 

@@ -37,7 +37,7 @@ CommandOption formatOption(const QString& tsvColumns) {
     return {{}, u"--format"_s, u"FORMAT"_s, u"text (Vorgabe) oder tsv: "_s + tsvColumns};
 }
 
-QList<CommandSpec> makeTable() {
+QList<CommandEntry> makeTable() {
     return {
         {u"cat"_s,
          Group::Document,
@@ -268,14 +268,14 @@ QString optionLabel(const CommandOption& option) {
 
 } // namespace
 
-const QList<CommandSpec>& commandTable() {
-    static const QList<CommandSpec> table = makeTable();
+const QList<CommandEntry>& commandTable() {
+    static const QList<CommandEntry> table = makeTable();
     return table;
 }
 
-const CommandSpec* findCommandSpec(QStringView name) {
-    const QList<CommandSpec>& table = commandTable();
-    const auto it = std::find_if(table.begin(), table.end(), [&](const CommandSpec& c) { return c.name == name; });
+const CommandEntry* findCommandEntry(QStringView name) {
+    const QList<CommandEntry>& table = commandTable();
+    const auto it = std::find_if(table.begin(), table.end(), [&](const CommandEntry& c) { return c.name == name; });
     return it == table.end() ? nullptr : &*it;
 }
 
@@ -297,14 +297,14 @@ const QList<CommandOption>& commonOptions() {
     return options;
 }
 
-QString synopsisOf(const CommandSpec& spec) {
-    QString text = spec.name;
-    for (const CommandOption& option : spec.options) {
+QString synopsisOf(const CommandEntry& entry) {
+    QString text = entry.name;
+    for (const CommandOption& option : entry.options) {
         const QString& name = option.shortName.isEmpty() ? option.longName : option.shortName;
         text += u" ["_s + name + (option.takesValue() ? u' ' + option.valueName : QString()) + u']';
     }
-    if (!spec.arguments.isEmpty())
-        text += u' ' + spec.arguments;
+    if (!entry.arguments.isEmpty())
+        text += u' ' + entry.arguments;
     return text;
 }
 
@@ -324,8 +324,8 @@ QString optionLines(const QList<CommandOption>& options) {
 }
 
 int usageOf(const CliStreams& io, QStringView command) {
-    const CommandSpec* spec = findCommandSpec(command);
-    return usage(io, spec ? synopsisOf(*spec) : command.toString());
+    const CommandEntry* entry = findCommandEntry(command);
+    return usage(io, entry ? synopsisOf(*entry) : command.toString());
 }
 
 } // namespace quenfor::cli

@@ -25,7 +25,7 @@ enum class CommandGroup { Document, Query, CadFiles, Lint, Compare, Calculator }
 
 using CommandRunner = int (*)(const CliArgs&, const CliStreams&);
 
-struct CommandSpec {
+struct CommandEntry {
     QString name;
     CommandGroup group;
     CommandRunner run;
@@ -36,14 +36,14 @@ struct CommandSpec {
 };
 
 // Every command in the order the overview lists them.
-const QList<CommandSpec>& commandTable();
-const CommandSpec* findCommandSpec(QStringView name);
+const QList<CommandEntry>& commandTable();
+const CommandEntry* findCommandEntry(QStringView name);
 
 // The options every command takes (--codepage, -i, -o, --kb, --data, --help, --version).
 const QList<CommandOption>& commonOptions();
 
 // "find [--no-subfolders] [--mask N] ORDNER MUSTER"
-QString synopsisOf(const CommandSpec& spec);
+QString synopsisOf(const CommandEntry& entry);
 
 // The option list of a help text, one option a line with its description in one column.
 QString optionLines(const QList<CommandOption>& options);

@@ -44,16 +44,16 @@ QStringList namesOf(const CommandOption& option) {
 
 TEST(CommandTableTest, EveryCommandHasItsHelpWithSynopsisAndOptions) {
     ASSERT_FALSE(commandTable().isEmpty());
-    for (const CommandSpec& spec : commandTable()) {
-        SCOPED_TRACE(spec.name.toStdString());
-        EXPECT_FALSE(spec.summary.isEmpty());
-        EXPECT_FALSE(spec.details().trimmed().isEmpty());
-        const InProcessRun help = runInProcess({spec.name, u"--help"_s});
+    for (const CommandEntry& entry : commandTable()) {
+        SCOPED_TRACE(entry.name.toStdString());
+        EXPECT_FALSE(entry.summary.isEmpty());
+        EXPECT_FALSE(entry.details().trimmed().isEmpty());
+        const InProcessRun help = runInProcess({entry.name, u"--help"_s});
         EXPECT_EQ(help.status, kOk);
-        EXPECT_TRUE(help.out.startsWith(u"quenfor-cli "_s + synopsisOf(spec) + u'\n')) << help.out.toStdString();
+        EXPECT_TRUE(help.out.startsWith(u"quenfor-cli "_s + synopsisOf(entry) + u'\n')) << help.out.toStdString();
         // Each option has a line of its own that begins with its names.
         const QStringList lines = help.out.split(u'\n');
-        for (const CommandOption& option : spec.options) {
+        for (const CommandOption& option : entry.options) {
             EXPECT_FALSE(option.description.isEmpty());
             const QStringList names = namesOf(option);
             const bool described = std::any_of(lines.begin(), lines.end(), [&](const QString& line) {
@@ -66,41 +66,41 @@ TEST(CommandTableTest, EveryCommandHasItsHelpWithSynopsisAndOptions) {
 
 TEST(CommandTableTest, OverviewListsEveryCommandExactlyOnce) {
     const QString overview = overviewHelp();
-    for (const CommandSpec& spec : commandTable()) {
-        const QRegularExpression line(u"^  "_s + QRegularExpression::escape(spec.name) + u"  +\\S"_s,
+    for (const CommandEntry& entry : commandTable()) {
+        const QRegularExpression line(u"^  "_s + QRegularExpression::escape(entry.name) + u"  +\\S"_s,
                                       QRegularExpression::MultilineOption);
-        EXPECT_EQ(overview.count(line), 1) << spec.name.toStdString();
+        EXPECT_EQ(overview.count(line), 1) << entry.name.toStdString();
     }
     EXPECT_EQ(runInProcess({u"--help"_s}).out, overview);
 }
 
 TEST(CommandTableTest, EveryListedOptionIsTakenWithItsValue) {
-    for (const CommandSpec& spec : commandTable()) {
-        for (const CommandOption& option : spec.options) {
+    for (const CommandEntry& entry : commandTable()) {
+        for (const CommandOption& option : entry.options) {
             for (const QString& name : namesOf(option)) {
-                SCOPED_TRACE((spec.name + u' ' + name).toStdString());
-                QStringList args = {spec.name, u"erstes"_s, name};
+                SCOPED_TRACE((entry.name + u' ' + name).toStdString());
+                QStringList args = {entry.name, u"erstes"_s, name};
                 if (option.takesValue())
                     args.append(u"-1"_s); // a value is taken as it stands, even one that looks like an option
                 args.append(u"zweites"_s);
                 CliArgs parsed;
                 const std::optional<QString> error = parseArgs(args, parsed);
                 ASSERT_FALSE(error) << error->toStdString();
-                EXPECT_EQ(parsed.command, spec.name);
+                EXPECT_EQ(parsed.command, entry.name);
                 EXPECT_EQ(parsed.positional, (QStringList{u"erstes"_s, u"zweites"_s}));
                 EXPECT_EQ(parsed.count(option.key()), 1);
                 if (option.takesValue())
                     EXPECT_EQ(parsed.value(option.key()), u"-1"_s);
 
                 if (option.takesValue()) {
-                    const std::optional<QString> missing = parseArgs({spec.name, u"x"_s, name}, parsed = {});
+                    const std::optional<QString> missing = parseArgs({entry.name, u"x"_s, name}, parsed = {});
                     ASSERT_TRUE(missing);
                     EXPECT_TRUE(missing->contains(u"braucht einen Wert"_s)) << missing->toStdString();
                 }
                 if (name.startsWith(u"--")) {
                     // "--name=value" is the same as "--name value"; a switch refuses a value.
                     CliArgs joined;
-                    const std::optional<QString> e = parseArgs({spec.name, name + u"=w"_s, u"x"_s}, joined);
+                    const std::optional<QString> e = parseArgs({entry.name, name + u"=w"_s, u"x"_s}, joined);
                     if (option.takesValue()) {
                         ASSERT_FALSE(e) << e->toStdString();
                         EXPECT_EQ(joined.value(option.key()), u"w"_s);
@@ -115,13 +115,13 @@ TEST(CommandTableTest, EveryListedOptionIsTakenWithItsValue) {
 }
 
 TEST(CommandTableTest, AnOptionNotListedForTheCommandIsAUsageErrorNamingBoth) {
-    for (const CommandSpec& spec : commandTable()) {
+    for (const CommandEntry& entry : commandTable()) {
         QStringList foreign = {u"--gibt-es-nicht"_s, u"-x"_s};
         // Options of other commands are unknown here too.
-        for (const CommandSpec& other : commandTable()) {
+        for (const CommandEntry& other : commandTable()) {
             for (const CommandOption& option : other.options) {
                 for (const QString& name : namesOf(option)) {
-                    const bool listed = std::any_of(spec.options.begin(), spec.options.end(),
+                    const bool listed = std::any_of(entry.options.begin(), entry.options.end(),
                                                     [&](const CommandOption& o) { return o.matches(name); });
                     if (!listed && !option.takesValue() && !foreign.contains(name))
                         foreign.append(name);
@@ -129,13 +129,13 @@ TEST(CommandTableTest, AnOptionNotListedForTheCommandIsAUsageErrorNamingBoth) {
             }
         }
         for (const QString& name : foreign) {
-            SCOPED_TRACE((spec.name + u' ' + name).toStdString());
-            const InProcessRun r = runInProcess({spec.name, name, u"x"_s});
+            SCOPED_TRACE((entry.name + u' ' + name).toStdString());
+            const InProcessRun r = runInProcess({entry.name, name, u"x"_s});
             EXPECT_EQ(r.status, kUsage);
             EXPECT_TRUE(r.out.isEmpty());
-            EXPECT_TRUE(r.err.contains(u"Unbekannte Option %1 für den Befehl %2"_s.arg(name, spec.name)))
+            EXPECT_TRUE(r.err.contains(u"Unbekannte Option %1 für den Befehl %2"_s.arg(name, entry.name)))
                 << r.err.toStdString();
-            EXPECT_TRUE(r.err.contains(u"Aufruf: quenfor-cli "_s + synopsisOf(spec))) << r.err.toStdString();
+            EXPECT_TRUE(r.err.contains(u"Aufruf: quenfor-cli "_s + synopsisOf(entry))) << r.err.toStdString();
         }
     }
 }
