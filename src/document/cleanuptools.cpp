@@ -1,5 +1,6 @@
 #include "document/cleanuptools.h"
 
+#include "document/collatedsort.h"
 #include "document/configdocument.h"
 #include "document/linecollator.h"
 #include "document/linekind.h"
@@ -92,50 +93,6 @@ bool staysUnsorted(QStringView line) {
     return startsWithMapkey(line) || isCommentLine(line) || line.startsWith(u"browser_favorite");
 }
 
-// Sorts the indexes of `lines` in collation order; equal lines keep their order.
-void sortIndexes(const QStringList& lines, std::vector<int>& indexes, const LineCollator& collator) {
-    if (!collator.hasAsciiTable()) {
-        std::vector<QCollatorSortKey> keys;
-        keys.reserve(indexes.size());
-        for (int i : indexes)
-            keys.push_back(collator.collator().sortKey(lines[i]));
-        std::vector<int> order(indexes.size());
-        for (size_t i = 0; i < order.size(); ++i)
-            order[i] = int(i);
-        // As QCollator::compare does, an empty line goes before every other line, even one whose
-        // characters the collation ignores (their sort keys would be equal).
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-            const bool emptyA = lines[indexes[a]].isEmpty();
-            const bool emptyB = lines[indexes[b]].isEmpty();
-            if (emptyA || emptyB)
-                return emptyA && !emptyB;
-            return keys[a].compare(keys[b]) < 0;
-        });
-        std::vector<int> sorted;
-        sorted.reserve(order.size());
-        for (int i : order)
-            sorted.push_back(indexes[i]);
-        indexes.swap(sorted);
-        return;
-    }
-
-    // A packed prefix decides most comparisons without looking at the text.
-    struct Entry {
-        LineCollator::SortPrefix prefix;
-        int index;
-    };
-    std::vector<Entry> entries;
-    entries.reserve(indexes.size());
-    for (int i : indexes)
-        entries.push_back({collator.sortPrefix(lines[i]), i});
-    std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
-        const int c = collator.comparePrefixed(a.prefix, lines[a.index], b.prefix, lines[b.index]);
-        return c != 0 ? c < 0 : a.index < b.index;
-    });
-    for (size_t i = 0; i < entries.size(); ++i)
-        indexes[i] = entries[i].index;
-}
-
 } // namespace
 
 QStringList sortLinesAlphabetically(const QStringList& lines, const QLocale& locale, std::optional<QString>* dropped) {
@@ -145,7 +102,7 @@ QStringList sortLinesAlphabetically(const QStringList& lines, const QLocale& loc
     for (int i = 0; i < lines.size(); ++i)
         (staysUnsorted(lines[i]) ? keptPart : sortedPart).push_back(i);
 
-    sortIndexes(lines, sortedPart, LineCollator::forLocale(locale));
+    sortLineIndexes(lines, sortedPart, LineCollator::forLocale(locale));
 
     if (dropped)
         *dropped = sortedPart.empty() ? std::nullopt : std::optional<QString>(lines[sortedPart.front()]);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
+#include <limits>
 #include <map>
 #include <memory>
 #include <numeric>
@@ -24,13 +26,25 @@ QLocale collationLocale(const QLocale& locale) {
     return locale;
 }
 
+QCollator listBoxCollator(const QLocale& locale) {
+    QCollator collator(locale);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    collator.setNumericMode(false);
+    collator.setIgnorePunctuation(false);
+    return collator;
+}
+
 } // namespace
 
-LineCollator::LineCollator(const QLocale& locale) : m_collator(collationLocale(locale)) {
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
-    m_collator.setNumericMode(false);
-    m_collator.setIgnorePunctuation(false);
+LineCollator::LineCollator(const QLocale& locale) : m_collator(listBoxCollator(collationLocale(locale))) {
     m_asciiTable = buildAsciiTable();
+}
+
+LineCollator LineCollator::forAnotherThread() const {
+    // A copied QCollator shares its library handle; the table is kept, it is only read.
+    LineCollator copy(*this);
+    copy.m_collator = listBoxCollator(m_collator.locale());
+    return copy;
 }
 
 const LineCollator& LineCollator::forLocale(const QLocale& locale) {
@@ -95,9 +109,39 @@ bool LineCollator::buildAsciiTable() {
 int LineCollator::compareAscii(QStringView a, QStringView b) const {
     if (a.isEmpty() || b.isEmpty()) // as QCollator does: an empty line before every other line
         return int(!a.isEmpty()) - int(!b.isEmpty());
-    qsizetype i = 0;
-    qsizetype j = 0;
+    return compareAsciiFrom(a, 0, b, 0);
+}
+
+namespace {
+
+// How many UTF-16 units from a[i] and b[j] on are the same, four at a time where they can be.
+qsizetype sameUnitsFrom(QStringView a, qsizetype i, QStringView b, qsizetype j) {
+    const qsizetype limit = qMin(a.size() - i, b.size() - j);
+    const char16_t* pa = a.utf16() + i;
+    const char16_t* pb = b.utf16() + j;
+    qsizetype n = 0;
+    for (; n + 4 <= limit; n += 4) {
+        quint64 wa;
+        quint64 wb;
+        std::memcpy(&wa, pa + n, sizeof wa);
+        std::memcpy(&wb, pb + n, sizeof wb);
+        if (wa != wb)
+            break;
+    }
+    while (n < limit && pa[n] == pb[n])
+        ++n;
+    return n;
+}
+
+} // namespace
+
+int LineCollator::compareAsciiFrom(QStringView a, qsizetype i, QStringView b, qsizetype j) const {
     for (;;) {
+        // Equal characters weigh the same, ignorable or not, so a common run is passed at once:
+        // duplicate lines and lines with the same option name are common in configuration files.
+        const qsizetype same = sameUnitsFrom(a, i, b, j);
+        i += same;
+        j += same;
         while (i < a.size() && m_weight[a[i].unicode()] == 0)
             ++i;
         while (j < b.size() && m_weight[b[j].unicode()] == 0)
@@ -114,15 +158,14 @@ int LineCollator::compareAscii(QStringView a, QStringView b) const {
 }
 
 LineCollator::SortPrefix LineCollator::sortPrefix(QStringView text) const {
-    constexpr int kWidth = 16;
     constexpr int kCombiningReach = 2; // weights before a non-ASCII character that it may change
     SortPrefix prefix;
     int taken = 0;
     qsizetype i = 0;
-    for (; i < text.size() && taken < kWidth; ++i) {
+    for (; i < text.size() && taken < kPrefixWidth; ++i) {
         const char16_t c = text[i].unicode();
         if (c >= 0x80) {
-            prefix.decisive = qMax(0, taken - kCombiningReach);
+            prefix.decisive = quint8(qMax(0, taken - kCombiningReach));
             return prefix;
         }
         const quint8 w = m_weight[c];
@@ -135,12 +178,14 @@ LineCollator::SortPrefix LineCollator::sortPrefix(QStringView text) const {
         ++taken;
     }
     const bool nonAsciiFollows = i < text.size() && text[i].unicode() >= 0x80;
-    prefix.decisive = nonAsciiFollows ? kWidth - kCombiningReach : kWidth;
-    prefix.ascii = isAscii(text.mid(i));
+    prefix.decisive = quint8(nonAsciiFollows ? kPrefixWidth - kCombiningReach : kPrefixWidth);
+    // A line too long for the offset is left to the whole comparison.
+    prefix.ascii = i <= std::numeric_limits<qint32>::max() && isAscii(text.mid(i));
+    prefix.rest = prefix.ascii ? qint32(i) : 0;
     return prefix;
 }
 
-int LineCollator::comparePrefixed(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const {
+int LineCollator::compareUndecided(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const {
     if (pa.high != pb.high || pa.low != pb.low) {
         const int firstDifference =
             pa.high != pb.high ? std::countl_zero(pa.high ^ pb.high) / 8 : 8 + std::countl_zero(pa.low ^ pb.low) / 8;

@@ -35,17 +35,36 @@ public:
     struct SortPrefix {
         quint64 high = 0;
         quint64 low = 0;
-        int decisive = 0;
+        qint32 rest = 0; // where the text behind the packed weights starts (ASCII lines only)
+        quint8 decisive = 0;
         bool ascii = false; // the whole line, not just the prefix
     };
+    static constexpr int kPrefixWidth = 16;
     SortPrefix sortPrefix(QStringView text) const;
-    // Compares two lines whose prefixes were taken by sortPrefix (requires the ASCII table).
-    int comparePrefixed(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const;
+    // Compares two lines whose prefixes were taken by sortPrefix (requires the ASCII table). Most
+    // pairs are decided by the packed weights alone, without touching the text.
+    int comparePrefixed(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const {
+        if (pa.decisive == kPrefixWidth && pb.decisive == kPrefixWidth) {
+            if (pa.high != pb.high)
+                return pa.high < pb.high ? -1 : 1;
+            if (pa.low != pb.low)
+                return pa.low < pb.low ? -1 : 1;
+            // Equal weights so far: an ASCII pair goes on behind them. A line without any weight
+            // (empty, or only ignorable characters) needs the whole comparison's rule for empty lines.
+            if (pa.ascii && pb.ascii && pa.high != 0)
+                return compareAsciiFrom(a, pa.rest, b, pb.rest);
+        }
+        return compareUndecided(pa, a, pb, b);
+    }
     int compareAscii(QStringView a, QStringView b) const;
     const QCollator& collator() const { return m_collator; }
+    // A copy with its own collation library handle, for sorting on a second thread.
+    LineCollator forAnotherThread() const;
 
 private:
     bool buildAsciiTable();
+    int compareUndecided(const SortPrefix& pa, QStringView a, const SortPrefix& pb, QStringView b) const;
+    int compareAsciiFrom(QStringView a, qsizetype i, QStringView b, qsizetype j) const;
 
     QCollator m_collator;
     std::array<quint8, 128> m_weight{}; // 0: ignored by the collation (most control characters)

@@ -1,6 +1,7 @@
 #include "testsupport.h"
 
 #include "document/cleanuptools.h"
+#include "document/collatedsort.h"
 #include "document/linecollator.h"
 
 #include <QCollator>
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -154,6 +156,34 @@ TEST(SortTest, FastOrderAgreesWithTheCollator) {
             const QStringList lines = random.document(600, 6);
             SCOPED_TRACE(testing::PrintToString(lines));
             ASSERT_EQ(sortLinesAlphabetically(lines, locale), literalSort(lines, oracle));
+        }
+    }
+}
+
+// Configuration lines share long option names: ties on the packed prefix must go on behind it,
+// and the two halves of a parallel sort must merge into the order of one stable sort.
+TEST(SortTest, LongSharedPrefixesAndParallelHalvesAgreeWithTheCollator) {
+    const QStringList heads = rows(u"drawing_setup_file|DRAWING_SETUP_FILE_|drawing_setup_fi|drawing\x01_setup_file|"
+                                   u"drawing_setup_fil\u00e4|drawing_setup_file  |pro_library_directory_x|");
+    Random random(sortAlphabet);
+    for (const QLocale& locale : {german, QLocale(QLocale::Czech, QLocale::CzechRepublic)}) {
+        const LineCollator& collator = LineCollator::forLocale(locale);
+        const QCollator oracle = listBoxCollator(locale);
+        for (int round = 0; round < 30; ++round) {
+            QStringList lines;
+            for (int n = random.pick(300); n > 0; --n)
+                lines.append(heads[random.pick(int(heads.size()) - 1)] + random.text(4));
+            std::vector<int> expected(size_t(lines.size()));
+            std::iota(expected.begin(), expected.end(), 0);
+            std::stable_sort(expected.begin(), expected.end(),
+                             [&](int a, int b) { return oracle.compare(lines[a], lines[b]) < 0; });
+            for (size_t parallelFrom : {size_t(2), size_t(1) << 30}) {
+                std::vector<int> sorted(size_t(lines.size()));
+                std::iota(sorted.begin(), sorted.end(), 0);
+                sortLineIndexes(lines, sorted, collator, parallelFrom);
+                ASSERT_EQ(sorted, expected) << locale.name().toStdString() << " parallel from " << parallelFrom << ": "
+                                            << testing::PrintToString(lines);
+            }
         }
     }
 }
