@@ -66,11 +66,11 @@ private:
     void chooseTargetFolder();
     void showStatus(const QString& text);
 
-    QString m_folder;
-    BatchParameters m_parameters;
-    BatchResult m_result;
-
     StatusHints* m_hints = nullptr;
+    QLabel* m_status = nullptr;
+
+    // The drawings' folder and the files chosen in it.
+    QString m_folder;
     QFileSystemModel* m_folderModel = nullptr;
     QTreeView* m_folderTree = nullptr;
     QLineEdit* m_folderEdit = nullptr;
@@ -79,15 +79,18 @@ private:
     QLabel* m_count = nullptr;
     QPushButton* m_all = nullptr;
     QPushButton* m_none = nullptr;
+
+    // The mapkeys made from them, and where they go.
+    BatchParameters m_parameters;
     QComboBox* m_template = nullptr;
     QPushButton* m_parametersButton = nullptr;
+    BatchResult m_result;
     QPlainTextEdit* m_preview = nullptr;
     QLabel* m_problems = nullptr;
     QLineEdit* m_target = nullptr;
     QPushButton* m_chooseTarget = nullptr;
     QPushButton* m_write = nullptr;
     QPushButton* m_close = nullptr;
-    QLabel* m_status = nullptr;
 };
 
 } // namespace quenfor

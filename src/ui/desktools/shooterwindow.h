@@ -48,18 +48,22 @@ private:
     void showScan(const HuntTick& tick);
     void showWindowTitle();
 
-    std::unique_ptr<ProcessTable> m_table;
+    // The hunt and what it has done.
     ProcessHunt* m_hunt = nullptr;
-    StatusHints* m_hints = nullptr;
     QLineEdit* m_prefix = nullptr;
     QPushButton* m_kill = nullptr;
     QPushButton* m_stop = nullptr;
     QLabel* m_scans = nullptr;
     QLabel* m_kills = nullptr;
+
+    // The running processes, and the list that shows them on demand.
+    std::unique_ptr<ProcessTable> m_table;
     QToolButton* m_openList = nullptr;
     QWidget* m_listPanel = nullptr;
     QListWidget* m_processes = nullptr;
     QLabel* m_windowTitle = nullptr;
+
+    StatusHints* m_hints = nullptr;
     QLabel* m_status = nullptr;
 };
 
