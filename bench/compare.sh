@@ -174,7 +174,7 @@ sec() { awk -v us="$1" 'BEGIN { printf "%.6f", us / 1e6 }'; }
 mb() { awk -v kb="$1" 'BEGIN { printf "%.3f", kb * 1024 / 1e6 }'; }
 check "Zeit cat / iconv|iconv" "$(sec "${fast[cat]}")" "$(sec "${fast[iconv]}")" 2 s
 check "Zeit dedupe / awk" "$(sec "${fast[dedupe]}")" "$(sec "${fast[awk]}")" 0.5 s
-check "Zeit sort / sort -f" "$(sec "${fast[sort]}")" "$(sec "${fast[sortf]}")" 1 s
+check "Zeit sort / sort -f" "$(sec "${fast[sort]}")" "$(sec "${fast[sortf]}")" 0.8 s
 filemb=$(awk -v s="$size" 'BEGIN { printf "%.3f", s / 1e6 }')
 for name in cat dedupe sort; do
     check "Speicher $name / Datei" "$(mb "${peak[$name]}")" "$filemb" 4 MB
