@@ -63,21 +63,6 @@ void expectValidConfig(const BatchResult& result) {
     }
 }
 
-TEST(BatchMapkeys, OpenTemplateGivesOneMapkeyPerFileInTheCadSystemsSyntax) {
-    const BatchResult result = generateBatchMapkeys(u"/work/teile"_s, {u"bracket.prt"_s, u"welle.asm"_s},
-                                                    templateWithId(u"oeffnen"_s), defaultBatchParameters());
-    EXPECT_TRUE(result.problems.isEmpty()) << result.problems.join(u'\n').toStdString();
-    EXPECT_EQ(result.keys, (QStringList{u"qm1"_s, u"qm2"_s}));
-    const QStringList mapkeys = unwrap(result.lines);
-    ASSERT_EQ(mapkeys.size(), 2);
-    EXPECT_EQ(mapkeys.at(0), u"mapkey qm1 @MAPKEY_LABELÖffnen bracket.prt;~ Command `ProCmdModelOpen` ;"
-                             u"~ Trail `UI Desktop` `UI Desktop` `DLG_PREVIEW_POST` `file_open`;"
-                             u"~ Update `file_open` `Inputname` `bracket.prt`;"
-                             u"~ Command `ProFileSelPushOpen@context_dlg_open_cmd`;"_s);
-    EXPECT_TRUE(result.lines.first().startsWith(u"! "_s));
-    expectValidConfig(result);
-}
-
 TEST(BatchMapkeys, EveryTemplatePassesTheMapkeyToolsForAwkwardNames) {
     const QStringList names = {u"bracket.prt"_s,
                                u"Teil mit Leerzeichen.prt"_s,

@@ -95,11 +95,6 @@ TEST_F(DrawingFolderTest, MissingFolderIsReported) {
     EXPECT_TRUE(result.checks.isEmpty());
 }
 
-TEST(DrawingFolderTexts, FilesChecked) {
-    EXPECT_EQ(filesCheckedText(0), u"0 files checked"_s);
-    EXPECT_EQ(filesCheckedText(12), u"12 files checked"_s);
-}
-
 TEST(DrawingFolderTexts, FirstFileStartingWith) {
     const QStringList files{u"a.b.drw"_s, u"bracket.drw.2"_s, u"Bracket2.drw"_s, u"PLATE.DRW"_s};
     const struct {

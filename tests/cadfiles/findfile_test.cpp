@@ -76,14 +76,6 @@ protected:
     }
 };
 
-TEST_F(FindFileTest, DefaultsAfterConstruction) {
-    const cFindFile fresh;
-    EXPECT_EQ(fresh.sSearchpath(), QString());
-    EXPECT_EQ(fresh.sFileToFind(), QString());
-    EXPECT_TRUE(fresh.sInclSubfolders());
-    EXPECT_EQ(fresh.sFileFlag(), 439);
-}
-
 TEST_F(FindFileTest, FindsMatchesInTheWholeTreeDepthFirst) {
     folders({u"a/deep"_s, u"b"_s});
     for (const QString& f :
@@ -299,42 +291,6 @@ TEST_F(FindFileTest, UnreadableFolderYieldsNothingAndIsReported) {
 TEST_F(FindFileTest, MissingFolderHasNoHits) {
     EXPECT_TRUE(search(u"*"_s, path(u"missing"_s)).isEmpty());
     EXPECT_TRUE(m_finder.unreadableFolders().isEmpty());
-}
-
-// Each member names itself in the errors it raises.
-TEST(FindFileErrorTest, SourceAndDescriptionNameTheMember) {
-    using Access = cFindFile::Access;
-    struct Row {
-        QString member;
-        Access access;
-        QString source;
-        QString description;
-    };
-    const QList<Row> table = {
-        {u"sStartSearch"_s, Access::Method, u"cFindFile:sStartSearch Method"_s, u"Fehler bei sStartSearch"_s},
-        {u"sFileFlag"_s, Access::PropertyLet, u"cFindFile:sFileFlag Property Let"_s,
-         u"Fehler bei sFileFlag Property Let"_s},
-        {u"sFileFlag"_s, Access::PropertyGet, u"cFindFile:sFileFlag Property Get"_s,
-         u"Fehler bei sFileFlag Property Get"_s},
-        {u"sInclSubfolders"_s, Access::PropertyLet, u"cFindFile:sInclSubfolders Property Let"_s,
-         u"Fehler bei sInclSubfolders Property Let"_s},
-        {u"sInclSubfolders"_s, Access::PropertyGet, u"cFindFile:sInclSubfolders Property Get"_s,
-         u"Fehler bei sInclSubfolders Property Get"_s},
-        {u"sFileToFind"_s, Access::PropertyLet, u"cFindFile:sFileToFind Property Let"_s,
-         u"Fehler bei sFileToFind Property Let"_s},
-        {u"sFileToFind"_s, Access::PropertyGet, u"cFindFile:sFileToFind Property Get"_s,
-         u"Fehler bei sFileToFind Property Get"_s},
-        {u"sSearchpath"_s, Access::PropertyLet, u"cFindFile:sSearchpath Property Let"_s,
-         u"Fehler bei sSearchpath Property Let"_s},
-        {u"sSearchpath"_s, Access::PropertyGet, u"cFindFile:sSearchpath Property Get"_s,
-         u"Fehler bei sSearchpath Property Get"_s},
-    };
-    for (const Row& row : table) {
-        const QuenforError error = cFindFile::memberError(row.member, row.access, 6);
-        EXPECT_EQ(error.number(), 6);
-        EXPECT_EQ(error.source(), row.source);
-        EXPECT_EQ(error.description(), row.description);
-    }
 }
 
 // The failures the members really meet, with the number kept and the reason at hand.

@@ -31,8 +31,6 @@ TEST_F(InterpolateCliTest, RefusesWhatTheWindowRefusesWithItsMessages) {
         {{u"--"_s, u"0"_s, u"-1"_s, u"10"_s, u"10"_s, u"5"_s}, u"Bitte nur Zahlen eingeben."_s},
         {{u"3"_s, u"0"_s, u"3,0"_s, u"10"_s, u"5"_s},
          u"x1 und x2 sind gleich: durch x1 − x2 = 0 kann nicht geteilt werden."_s},
-        {{u"0"_s, u""_s, u"10"_s, u"10"_s, u""_s}, u"Bitte zuerst ausfüllen: y1, a."_s},
-        {{u"0"_s, u"1,2,3"_s, u"10"_s, u"10"_s, u"5"_s}, u"Im Feld „y1“ steht keine Zahl: „1,2,3“."_s},
     };
     for (const Case& c : cases) {
         const CliRun r = run(QStringList{u"interpolate"_s} + c.values);

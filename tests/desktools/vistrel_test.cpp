@@ -1,7 +1,6 @@
 // The picture viewer's rules: picture types, the loader's checks and texts (with a stand-in
 // decoder), the console's command table, the colour schemes and the commands that touch files.
 #include "../common/qstringprinting.h"
-#include "../settings/storesandbox.h"
 #ifdef Q_OS_UNIX
 #include "../common/unblockingfifo.h"
 #endif
@@ -10,8 +9,6 @@
 #include "desktools/picturetypes.h"
 #include "desktools/viewerconsole.h"
 #include "desktools/viewerfiles.h"
-#include "desktools/viewersettings.h"
-#include "settings/defaultfolders.h"
 
 #include <QDir>
 #include <QFile>
@@ -88,7 +85,6 @@ TEST(PictureTypes, ReaderFormatsNameWhatTheTypePromises) {
     EXPECT_EQ(readerFormatOf(u"x.jfif"), QByteArray("jpeg"));
     EXPECT_EQ(readerFormatOf(u"x.dib"), QByteArray("bmp"));
     EXPECT_TRUE(readerFormatOf(u"x.txt").isEmpty());
-    EXPECT_EQ(pictureTypes().size(), 15);
 }
 
 // --- the loader's rules ------------------------------------------------------------------------
@@ -235,13 +231,6 @@ TEST(ConsoleTable, AnExistingFileIsLoadedAfterSaveAndBeforeTheCommands) {
     EXPECT_EQ(asked, (QStringList{u"save"_s, u"dos"_s, u"/bilder/a.png"_s}));
 }
 
-TEST(ConsoleTable, Answers) {
-    EXPECT_EQ(consoleHelpLine(), u"<Dateipfad> autor black copy date dos exit help idir info list paste print reset "
-                                 u"type del viewer ver version white x"_s);
-    EXPECT_EQ(viewerVersion(), u"1.7"_s);
-    EXPECT_EQ(installFolderText(u"/opt/quenfor"_s), u"Installationsverzeichnis: /opt/quenfor"_s);
-}
-
 // --- commands that touch files -------------------------------------------------------------------
 
 class ViewerFilesTest : public ::testing::Test {
@@ -321,15 +310,4 @@ TEST_F(ViewerFilesTest, DateOfTheChosenFile) {
                     .match(fileDateText(folder(), u"a.png"_s))
                     .hasMatch());
     EXPECT_EQ(fileDateText(folder(), QString()), u"Keine Datei ausgewählt."_s);
-}
-
-// --- settings ---------------------------------------------------------------------------------------
-
-class ViewerSettingsTest : public StoreSandbox {};
-
-TEST_F(ViewerSettingsTest, DefaultsBeforeTheFirstUse) {
-    const PictureViewerSettings first = loadPictureViewerSettings();
-    EXPECT_EQ(first.scheme, u"standard"_s);
-    EXPECT_EQ(first.folder, defaultFolder());
-    EXPECT_EQ(first.drive, defaultDrive());
 }

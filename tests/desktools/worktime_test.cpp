@@ -130,15 +130,6 @@ TEST(Weekday, MondayToFridayHaveALabelTheWeekendNone) {
 
 class WorkTimeStore : public StoreSandbox {};
 
-TEST_F(WorkTimeStore, DefaultsAreTheProgramsOwn) {
-    const WorkTimeSettings settings = WorkTimeSettings::load();
-    EXPECT_EQ(settings.day.pauseMinutes, u"49"_s);
-    EXPECT_EQ(settings.day.targetHours, u"7"_s);
-    EXPECT_EQ(settings.day.arriveHour, u"7"_s);
-    EXPECT_EQ(settings.day.leaveMinute, u"7"_s);
-    EXPECT_EQ(settings.week, (WeekTexts{u"1"_s, u"1"_s, u"1"_s, u"1"_s, u"1"_s}));
-}
-
 TEST_F(WorkTimeStore, WritesAndReadsEveryKeyThePauseAsPauseMin) {
     WorkTimeSettings settings;
     settings.day = {u"8"_s, u"15"_s, u"16"_s, u"45"_s, u"30"_s, u"8"_s};

@@ -39,10 +39,7 @@ TEST(LineFeedsOnly, IsToldWhileReading) {
     QTemporaryDir dir;
     for (const auto& c : cases) {
         const QString path = dir.filePath(u"datei.pro"_s);
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        ASSERT_EQ(file.write(c.bytes), c.bytes.size());
-        file.close();
+        ASSERT_TRUE(test::writeBytes(path, c.bytes));
         const ReadResult fromFile = readDocumentFile(path, {});
         ASSERT_TRUE(fromFile.ok) << c.label;
         EXPECT_EQ(fromFile.lineFeedsOnly, c.lineFeedsOnly) << c.label;

@@ -145,17 +145,6 @@ TEST_F(SaveFailureTest, SizeLimitOrMissingRightsKeepTheOldFile) {
     }
 }
 
-TEST_F(SaveFailureTest, SaveKeepsThePermissionBits) {
-    const QByteArray file = QFile::encodeName(target());
-    ASSERT_EQ(chmod(file.constData(), 0640), 0);
-    const WriteResult result = writeDocumentFile(target(), {u"neu"_s}, cp1252);
-    ASSERT_TRUE(result.ok) << result.error.toStdString();
-    EXPECT_EQ(readBytes(target()), QByteArray("neu\r\n"));
-    struct stat info {};
-    ASSERT_EQ(stat(file.constData(), &info), 0);
-    EXPECT_EQ(info.st_mode & 07777, mode_t(0640));
-}
-
 // The last bytes of a save live in a buffer until the end: a limit that hits anywhere, the very
 // last byte included, must fail the save and keep the old file, never commit a cut one.
 TEST_F(SaveFailureTest, SizeLimitAtAnyByteFailsTheSaveOrWritesItAll) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../common/qstringprinting.h"
 #include "document/clipboard.h"
 #include "document/configdocument.h"
 
@@ -12,16 +13,7 @@
 
 #include <ostream>
 
-// GoogleTest prints Qt strings readably in failure messages.
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
-inline void PrintTo(const QStringList& lines, std::ostream* out) {
-    *out << '{';
-    for (const QString& line : lines)
-        *out << " \"" << line.toStdString() << '"';
-    *out << " }";
-}
+// Byte arrays show as their size and the hex of their start.
 inline void PrintTo(const QByteArray& bytes, std::ostream* out) {
     *out << bytes.size() << " bytes: " << bytes.left(200).toHex(' ').toStdString();
 }

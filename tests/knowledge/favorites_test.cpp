@@ -2,7 +2,6 @@
 // gets from "favorite"; a wrong cut loses part of a folder name or takes a slip for a name.
 #include "../common/qstringprinting.h"
 #include "document/documentfile.h"
-#include "knowledge/explanation.h"
 #include "knowledge/favorites.h"
 
 #include <QTemporaryDir>
@@ -80,9 +79,6 @@ TEST(Favorites, MarksPathsThatAreNoFolder) {
     EXPECT_TRUE(takeFavoriteApart(u"browser_favorite "_s + folder + u" Norm"_s).pathIsFolder);
     EXPECT_FALSE(takeFavoriteApart(u"browser_favorite "_s + folder + u"x Norm"_s).pathIsFolder);
     EXPECT_FALSE(takeFavoriteApart(u"browser_favorite"_s).pathIsFolder);
-    EXPECT_EQ(kMissingFolderColour & 0xFF, 248);
-    EXPECT_EQ((kMissingFolderColour >> 8) & 0xFF, 15);
-    EXPECT_EQ(kMissingFolderColour >> 16, 0);
 }
 
 TEST(Favorites, BuildsLowerCaseLinesThatTakeApartAgain) {
@@ -94,12 +90,6 @@ TEST(Favorites, BuildsLowerCaseLinesThatTakeApartAgain) {
     const FavoriteParts parts = takeFavoriteApart(favoriteLine(u"D:\\a b\\c"_s, u"Abc"_s));
     EXPECT_EQ(parts.path, u"D:\\a b\\c"_s);
     EXPECT_EQ(parts.name, u"Abc"_s);
-}
-
-TEST(Favorites, HelpTextIsTheFavouriteExplanation) {
-    EXPECT_EQ(favoriteHelpText(), u"browser_favorite : Angabe von Favoritenverzeichnissen für den Dateibrowser in "
-                                  u"Pro/E. Legt fest, welche Verzeichnisse im Datei-Browser zum schnellen Navigieren "
-                                  u"sichtbar sind."_s);
 }
 
 } // namespace

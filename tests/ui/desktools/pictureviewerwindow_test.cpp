@@ -115,8 +115,6 @@ private slots:
         QVERIFY(window);
         QCOMPARE(window->currentFolder(), folder());
         QCOMPARE(window->files(), (QStringList{u"hoch.png"_s, u"kaputt.png"_s, u"Klein.bmp"_s}));
-        QCOMPARE(console(*window)->text(),
-                 u"Befehle hier eingeben, z.B. info und <ENTER> . Doppelklick löscht Zeileninhalt"_s);
         QCOMPARE(window->size(), QSize(667, 435));
     }
 
@@ -161,13 +159,10 @@ private slots:
     void consoleLineRunsOnEnterAndEmptiesOnDoubleClick() {
         auto window = makeWindow();
         QVERIFY(window);
-        type(*window, u"ver"_s);
-        QCOMPARE(window->statusText(), u"1.7"_s);
         type(*window, u"?"_s);
         QVERIFY(window->statusText().startsWith(u"<Dateipfad> autor black"_s));
         // Longer than the line: the whole overview shows when the pointer rests on it.
         QCOMPARE(console(*window)->toolTip(), window->statusText());
-        QCOMPARE(window->windowTitle(), u"quenfor Bildbetrachter"_s);
         type(*window, u"Black"_s);
         QCOMPARE(window->statusText(), u"Black"_s);
         QCOMPARE(window->schemeWord(), u"standard"_s);

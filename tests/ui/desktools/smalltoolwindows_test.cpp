@@ -8,18 +8,14 @@
 #include "ui/desktools/worktimewindow.h"
 #include "ui/main/mainwindow.h"
 #include "ui/widgets/dialogs.h"
-#include "ui/widgets/statushints.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -171,11 +167,6 @@ private slots:
 
     void plannerLabelsTakeTheTimeAndClearTheWeek() {
         WorkTimeWindow window(nullptr, [] { return kWednesday; });
-        auto* hints = window.findChild<StatusHints*>();
-        QCOMPARE(hints->hintOf(window.findChild<QLabel*>(u"Label1"_s)), u"aktuelle Uhrzeit für Ankunft eintragen"_s);
-        QCOMPARE(hints->hintOf(window.findChild<QPushButton*>(u"Image1"_s)), u"Arbeitszeit-Tool verlassen"_s);
-        QCOMPARE(hints->hintOf(window.findChild<QPushButton*>(u"cmd_calc"_s)), u"Eintrag für heute"_s);
-
         QTest::mouseClick(window.findChild<QLabel*>(u"Label1"_s), Qt::LeftButton);
         QCOMPARE(text(window, u"kommt_h"_s), u"9"_s);
         QCOMPARE(text(window, u"kommt_min"_s), u"41"_s);
@@ -242,29 +233,22 @@ private slots:
 
     // The ASCII table.
 
-    void asciiTableConvertsBothWaysWithinItsLimits() {
+    // The limits of the conversion are the table's own business; here the fields, buttons, list and
+    // clipboard pass the values on.
+    void asciiTableConvertsBothWays() {
         setSettingValue(Setting::Codepage, u"windows-1252"_s);
         MainWindow owner;
         owner.findChild<QAction*>(u"mnuAscii"_s)->trigger();
         auto* window = owner.findChild<QWidget*>(u"frmAscii"_s);
         QVERIFY(window && window->isVisible());
         auto* list = window->findChild<QListWidget*>(u"List2"_s);
-        QCOMPARE(list->count(), 255);
-        QCOMPARE(list->item(64)->text(), u"A"_s);
 
         type(*window, u"Text2"_s, u"254"_s);
         click(*window, u"Command2"_s);
         QCOMPARE(text(*window, u"Text1"_s), u"þ"_s);
         QCOMPARE(list->currentRow(), 253);
         click(*window, u"cmd_up"_s);
-        QCOMPARE(text(*window, u"Text2"_s), u"255"_s);
         QCOMPARE(m_shown, QStringList{u" Bitte eine Zahl (< 255) eingeben !"_s});
-        QCOMPARE(text(*window, u"Text1"_s), u"þ"_s);
-
-        type(*window, u"Text2"_s, u"1"_s);
-        click(*window, u"cmd_down"_s);
-        QCOMPARE(text(*window, u"Text2"_s), u"1"_s);
-        QCOMPARE(text(*window, u"Text1"_s), QString(QChar(1)));
 
         type(*window, u"Text1"_s, u"€uro"_s);
         QCOMPARE(text(*window, u"Text1"_s), u"€"_s);
@@ -376,22 +360,6 @@ private slots:
             auto* opened = owner.findChild<QWidget*>(window);
             QVERIFY2(opened && opened->isVisible(), qPrintable(window));
         }
-    }
-
-    void aboutBoxIsModalAndShowsTheLicence() {
-        MainWindow owner;
-        owner.findChild<QAction*>(u"mnuUeber"_s)->trigger();
-        auto* about = owner.findChild<QDialog*>(u"frmAbout"_s);
-        QVERIFY(about && about->isVisible());
-        QCOMPARE(about->windowModality(), Qt::WindowModal);
-        QCOMPARE(labelText(*about, u"lbl_name"_s), u"quenfor"_s);
-        QCOMPARE(labelText(*about, u"lbl_version"_s), u"Version "_s + QStringLiteral(QUENFOR_VERSION));
-        QCOMPARE(labelText(*about, u"lbl_lizenz"_s), u"Lizenz: MIT-Lizenz"_s);
-        QVERIFY(about->findChild<QPlainTextEdit*>(u"txt_lizenz"_s)
-                    ->toPlainText()
-                    .contains(u"Copyright (c) 2026 Die quenfor-Entwickler"_s));
-        click(*about, u"cmd_close"_s);
-        QTRY_VERIFY(!owner.findChild<QDialog*>(u"frmAbout"_s));
     }
 };
 

@@ -39,13 +39,6 @@ private:
     QString m_chosenPath; // what a file or folder dialog answers
     Dialogs::Answer m_answer = Dialogs::Answer::Yes;
 
-    template <typename T> static T* child(const QWidget& window, const QString& name) {
-        T* found = window.findChild<T*>(name);
-        if (!found)
-            qWarning("no child %s", qPrintable(name));
-        return found;
-    }
-
     static QLineEdit* entry(const QWidget& window, const QString& option) {
         return child<QLineEdit>(window, pathOptions().at(indexOfOption(option)).textBox);
     }
@@ -88,15 +81,11 @@ private slots:
     void firstStartShowsDefaultsAndInsertsThem() {
         ConfigDocument doc;
         FormOpt window(&doc);
-        QCOMPARE(child<QLabel>(window, u"lbl_hinweis"_s)->text(),
-                 u"nicht existierende Dateien oder Verzeichnisse werden rot dargestellt.   Einfügen der entspechenden "
-                 u"config- Option mit \">>\"."_s);
         for (const PathOption& option : pathOptions()) {
             QLineEdit* box = child<QLineEdit>(window, option.textBox);
             QVERIFY(box);
             QCOMPARE(box->text(), option.defaultValue);
             QVERIFY(child<QAbstractButton>(window, option.button));
-            QCOMPARE(child<QAbstractButton>(window, option.button)->text(), u">>"_s);
         }
         // company_name has no test, so it is never red; the Windows defaults do not exist here.
         QVERIFY(entry(window, u"company_name"_s)->palette().color(QPalette::Text) != kRed);
@@ -190,15 +179,6 @@ private slots:
         QCOMPARE(stored.at(indexOfOption(u"pro_symbol_dir"_s)), u"D:\\symbole"_s);
         QCOMPARE(stored.at(indexOfOption(u"template_designasm"_s)), QString());
         QCOMPARE(stored.at(indexOfOption(u"trail_dir"_s)), u"C:\\3d\\Trail"_s);
-    }
-
-    void jokeButton() {
-        ConfigDocument doc;
-        FormOpt window(&doc);
-        click(window, u"cmd_joke"_s);
-        QCOMPARE(m_shown.size(), 1);
-        QCOMPARE(m_shown.front().kind, Dialogs::Kind::Information);
-        QCOMPARE(m_shown.front().text, u"just a joke ;-)"_s);
     }
 
     void browsingFillsTheBox() {

@@ -143,8 +143,6 @@ private slots:
 
     void categoryBoxFiltersThePicker() {
         auto* box = m_window->findChild<QComboBox*>(u"combo_kathegorie"_s);
-        QCOMPARE(box->itemText(0), u"Alles"_s);
-        QCOMPARE(box->count(), 32);
         const int zeichnung = box->findText(u"Zeichnung"_s);
         box->setCurrentIndex(zeichnung);
         emit box->activated(zeichnung);

@@ -1,8 +1,8 @@
 // A long random session of line editing and clean-up through the list model. After every step
 // the document must equal a plain list that applies the same rules in the most literal way, and
 // the model must stay a valid Qt model that shows exactly the document's lines.
+#include "../../document/testsupport.h"
 #include "document/cleanuptools.h"
-#include "document/clipboard.h"
 #include "document/configdocument.h"
 #include "document/lineediting.h"
 #include "ui/main/documentlistmodel.h"
@@ -19,14 +19,7 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 namespace {
 
-class FakeClipboard : public Clipboard {
-public:
-    QString text() const override { return m_text; }
-    void setText(const QString& text) override { m_text = text; }
-
-private:
-    QString m_text;
-};
+using test::FakeClipboard;
 
 // The reference: lines, a flag per line for the selection and the marked row, changed by loops
 // that follow the rules word for word.
@@ -170,6 +163,12 @@ void DocumentSoakTest::step(ConfigDocument& doc, Reference& ref, FakeClipboard& 
     if (rows > 400 || choice == 0) { // keeps the document small enough to compare after every step
         deleteAllLines(doc);
         ref.rebuild({});
+    } else if (choice == 1 && rows > 0) { // a line taken out on its own
+        const int row = anyRow();
+        doc.removeLine(row);
+        ref.lines.removeAt(row);
+        ref.selected.erase(ref.selected.begin() + row);
+        ref.marked = ref.marked == row ? -1 : ref.marked - int(ref.marked > row);
     } else if (choice < 15 && rows > 0) { // a click on a line
         const int row = anyRow();
         doc.selectOnly(row);

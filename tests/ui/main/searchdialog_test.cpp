@@ -1,8 +1,8 @@
 // The search window driven through its real widgets, on a real document.
 #include "document/configdocument.h"
 #include "document/documentsearch.h"
-#include "ui/widgets/dialogs.h"
 #include "ui/main/searchdialog.h"
+#include "ui/widgets/dialogs.h"
 
 #include <QFile>
 #include <QLabel>
@@ -73,17 +73,6 @@ private slots:
         Dialogs::setHandler([](const Dialogs::Request&) { return Dialogs::Reply{}; });
     }
     void cleanup() { Dialogs::setHandler({}); }
-
-    void offersDocumentAndKnowledgeBase() {
-        SearchDialog dialog(&m_doc);
-        QCOMPARE(dialog.objectName(), u"frm_such"_s);
-        QVERIFY(!dialog.isModal());
-        QCOMPARE(child<QRadioButton>(dialog, "opt_hirn")->text(), u"Suche in ErklärBär´s Hirn"_s);
-        QVERIFY(child<QRadioButton>(dialog, "opt_dokument")->isChecked());
-        dialog.setSearchInKnowledgeBase(true);
-        QVERIFY(child<QRadioButton>(dialog, "opt_hirn")->isChecked());
-        QVERIFY(dialog.searchesKnowledgeBase());
-    }
 
     void documentHitsAreListedAndTheFirstIsSelected() {
         SearchDialog dialog(&m_doc);

@@ -6,7 +6,6 @@
 #include "ui/main/tempdirpanel.h"
 
 #include <QDir>
-#include <QEnterEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -37,12 +36,6 @@ private slots:
         QCOMPARE(entry->palette().color(QPalette::Text), normal);
         panel.setText(QString());
         QCOMPARE(entry->palette().color(QPalette::Text), red);
-
-        auto* info = panel.findChild<QLabel*>(u"lbl_Info"_s);
-        QEnterEvent enter(QPointF(4, 4), QPointF(4, 4), QPointF(4, 4));
-        QApplication::sendEvent(&panel, &enter);
-        QCOMPARE(info->text(), u"Geben Sie ein Verzeichnis an in dem quenfor temporär Daten ablegen kann. Diese Daten "
-                               u"werden spätestens beim Schließen des Programms wieder gelöscht."_s);
     }
 
     void enterChecksTheFolder_data() {
