@@ -1,6 +1,5 @@
 #include "ui/widgets/folderwidgets.h"
 
-#include "common/drivecontaining.h"
 #include "common/drives.h"
 
 #include <QComboBox>
@@ -26,24 +25,11 @@ QLabel* makeStatusLine(QWidget* parent, const QString& objectName) {
     return status;
 }
 
-void fillDriveBox(QComboBox* box) {
-    for (const QString& root : logicalDrives())
-        box->addItem(QDir::toNativeSeparators(root));
-}
-
-void selectDriveOf(QComboBox* box, const QString& folder) {
-    QStringList roots;
-    for (int i = 0; i < box->count(); ++i)
-        roots.append(box->itemText(i));
-    const qsizetype drive = driveContaining(roots, folder);
-    if (drive >= 0)
-        box->setCurrentIndex(int(drive));
-}
-
 QComboBox* makeDriveBox(QWidget* parent) {
     auto* box = new QComboBox(parent);
     box->setObjectName(u"Drive1"_s);
-    fillDriveBox(box);
+    for (const QString& root : logicalDrives())
+        box->addItem(QDir::toNativeSeparators(root));
     return box;
 }
 

@@ -18,9 +18,6 @@ QLabel* makeStatusLine(QWidget* parent, const QString& objectName);
 
 // Drive1: the drive roots (mounted volumes elsewhere), in native form.
 QComboBox* makeDriveBox(QWidget* parent);
-void fillDriveBox(QComboBox* box);
-// Selects the listed drive the folder lies on (the longest root that contains it).
-void selectDriveOf(QComboBox* box, const QString& folder);
 
 // Dir1: a tree of folders only (no files, no extra columns) over the given model.
 QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model);
