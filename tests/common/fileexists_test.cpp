@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace quenfor;
 
@@ -57,6 +59,22 @@ TEST_F(FileSystemTest, ExistenceTestsTellFilesFromFolders) {
         EXPECT_EQ(folderExists(c.path), c.folder);
         EXPECT_EQ(isFolder(c.path), c.folder);
     }
+}
+
+TEST_F(FileSystemTest, OnlyFoldersWhoseNamesCanBeReadCanBeListed) {
+    EXPECT_TRUE(folderCanBeListed(path(u"folder.d"_s)));
+    EXPECT_TRUE(folderCanBeListed(path(u"folderlink"_s)));
+    EXPECT_FALSE(folderCanBeListed(path(u"file.prt.3"_s)));
+    EXPECT_FALSE(folderCanBeListed(path(u"missing"_s)));
+    EXPECT_FALSE(folderCanBeListed(QString()));
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root lists every folder, so a locked folder cannot be tested";
+    for (const QFile::Permissions locked :
+         {QFile::Permissions(QFile::ReadOwner), QFile::Permissions(QFile::ExeOwner)}) {
+        ASSERT_TRUE(QFile::setPermissions(path(u"folder.d"_s), locked));
+        EXPECT_FALSE(folderCanBeListed(path(u"folder.d"_s))) << int(locked);
+    }
+    ASSERT_TRUE(QFile::setPermissions(path(u"folder.d"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
 TEST_F(FileSystemTest, WholeFileKeepsEveryByte) {

@@ -6,10 +6,11 @@
 #include "desktools/shotrectangle.h"
 #include "desktools/windowplacement.h"
 #include "document/documentfile.h"
+#include "ui/desktools/shotfieldvalidator.h"
 #include "ui/widgets/dialogs.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/formwidgets.h"
-#include "ui/desktools/shotfieldvalidator.h"
 #include "ui/widgets/statushints.h"
 
 #include <QBuffer>
@@ -18,7 +19,6 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -149,63 +149,47 @@ void ScreenshotWindow::buildWidgets() {
 QGroupBox* ScreenshotWindow::buildFolderFrame() {
     m_folderFrame = new QGroupBox(tr("Zielordner"), this);
     m_folderFrame->setObjectName(u"Frame6"_s);
-    m_drives = makeDriveBox(m_folderFrame);
-    m_drives->setObjectName(u"Drive2"_s);
-    connect(m_drives, &QComboBox::activated, this, &ScreenshotWindow::chooseDrive);
-    m_folderModel = new QFileSystemModel(this);
-    m_folderTree = makeFolderTree(m_folderFrame, m_folderModel);
-    m_folderTree->setObjectName(u"Dir2"_s);
-    m_folderTree->setMinimumHeight(180);
-    connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &ScreenshotWindow::takeFolderFromTree);
-    // The model reads folders in the background: the chosen one comes into view once it is there.
-    keepCurrentFolderInView(m_folderTree, m_folderModel);
+    m_chooser = new DriveFolderChooser(m_folderFrame);
+    m_chooser->driveBox()->setObjectName(u"Drive2"_s);
+    m_chooser->folderTree()->setObjectName(u"Dir2"_s);
+    m_chooser->folderTree()->setMinimumHeight(180);
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &ScreenshotWindow::showTargetFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
+            [this] { m_status->setText(tr("Laufwerk nicht verfügbar !")); });
     auto* ok = namedButton(u"cmd_ok"_s, tr("OK"), m_folderFrame);
     connect(ok, &QPushButton::clicked, m_folderFrame, &QWidget::hide);
 
     auto* layout = new QVBoxLayout(m_folderFrame);
-    layout->addWidget(m_drives);
-    layout->addWidget(m_folderTree, 1);
+    layout->addWidget(m_chooser->driveBox());
+    layout->addWidget(m_chooser->folderTree(), 1);
     layout->addWidget(ok, 0, Qt::AlignRight);
     m_folderFrame->hide();
     return m_folderFrame;
 }
 
+QString ScreenshotWindow::targetFolder() const {
+    return m_chooser->folder();
+}
+
 void ScreenshotWindow::setTargetFolder(const QString& folder) {
-    m_folder = QDir::toNativeSeparators(folder);
-    m_folderLabel->setText(m_folder);
-    m_folderLabel->setToolTip(m_folder);
-    if (showFolderInTree(m_folderTree, m_folderModel, m_folder))
-        selectDriveOf(m_drives, m_folder);
+    // The tree shows only a folder that exists; the shots go to the folder given all the same.
+    m_chooser->keepFolder(folder);
+    showTargetFolder(m_chooser->folder());
 }
 
-void ScreenshotWindow::takeFolderFromTree() {
-    const QModelIndex index = m_folderTree->currentIndex();
-    if (!index.isValid())
-        return;
-    m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
-    m_folderLabel->setText(m_folder);
-    m_folderLabel->setToolTip(m_folder);
-    selectDriveOf(m_drives, m_folder);
-}
-
-void ScreenshotWindow::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (folderExists(root)) {
-        setTargetFolder(root);
-        return;
-    }
-    m_status->setText(tr("Laufwerk nicht verfügbar !"));
-    selectDriveOf(m_drives, m_folder);
+void ScreenshotWindow::showTargetFolder(const QString& folder) {
+    m_folderLabel->setText(folder);
+    m_folderLabel->setToolTip(folder);
 }
 
 void ScreenshotWindow::showFolderFrame() {
     m_folderFrame->show();
-    m_folderTree->setFocus();
+    QTreeView* tree = m_chooser->folderTree();
+    tree->setFocus();
     // The tree can scroll only once the frame has its size.
-    QTimer::singleShot(0, m_folderTree, [this] {
-        if (m_folderTree->currentIndex().isValid())
-            m_folderTree->scrollTo(m_folderTree->currentIndex(), QAbstractItemView::PositionAtCenter);
+    QTimer::singleShot(0, tree, [tree] {
+        if (tree->currentIndex().isValid())
+            tree->scrollTo(tree->currentIndex(), QAbstractItemView::PositionAtCenter);
     });
 }
 
@@ -235,8 +219,8 @@ bool ScreenshotWindow::prepareShot(bool wholeScreen) {
     takeCounterFromField();
     const quint16 number = m_counter.next();
     m_count->setText(QString::number(number));
-    m_lastFile = wholeScreen ? wholeScreenShotFileName(m_folder, m_baseName->text(), number)
-                             : rectangleShotFileName(m_folder, m_baseName->text(), number);
+    m_lastFile = wholeScreen ? wholeScreenShotFileName(targetFolder(), m_baseName->text(), number)
+                             : rectangleShotFileName(targetFolder(), m_baseName->text(), number);
     m_status->clear();
     return true;
 }
@@ -255,7 +239,7 @@ void ScreenshotWindow::shootRectangle() {
     QScreen* aimedAt = QGuiApplication::screenAt(wanted.rect.topLeft());
     const DesktopPicture picture = pressPrintKey(aimedAt ? aimedAt : screen());
     // A missing folder is the user's way of taking shots only for the clipboard.
-    if (!picture.isNull() && folderExists(m_folder)) {
+    if (!picture.isNull() && folderExists(targetFolder())) {
         const VisibleShot visible = visiblePartOfShot(wanted.rect, picture.area);
         if (visible.rect.isEmpty()) {
             m_status->setText(visible.note);
@@ -281,7 +265,7 @@ void ScreenshotWindow::finishWholeScreen() {
     show();
     raise();
     activateWindow();
-    if (!picture.isNull() && folderExists(m_folder))
+    if (!picture.isNull() && folderExists(targetFolder()))
         save(picture.pixmap);
     finishShot();
 }

@@ -5,17 +5,15 @@
 
 #include <QWidget>
 
-class QComboBox;
-class QFileSystemModel;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QScreen;
 class QTimer;
-class QTreeView;
 
 namespace quenfor {
 
+class DriveFolderChooser;
 class StatusHints;
 
 // The screenshot tool: photographs the rectangle X, Y, BREITE, HOEHE or the whole screen without
@@ -32,7 +30,7 @@ public:
 
     explicit ScreenshotWindow(QWidget* parent = nullptr);
 
-    QString targetFolder() const { return m_folder; }
+    QString targetFolder() const;
     // Dir2's folder; a folder that does not exist is still taken (shots are then not saved).
     void setTargetFolder(const QString& folder);
 
@@ -55,8 +53,7 @@ protected:
 private:
     void buildWidgets();
     QGroupBox* buildFolderFrame();
-    void chooseDrive(int index);
-    void takeFolderFromTree();
+    void showTargetFolder(const QString& folder);
     void showFolderFrame();
     void placeWindow(int left, int top);
     void takeCounterFromField();
@@ -69,7 +66,6 @@ private:
     void finishShot();
 
     ShotCounter m_counter;
-    QString m_folder;
     QString m_lastFile;
     QPixmap m_preview;
     bool m_shooting = false;
@@ -83,9 +79,7 @@ private:
     QLineEdit* m_count = nullptr;
     QLabel* m_folderLabel = nullptr;
     QGroupBox* m_folderFrame = nullptr;
-    QComboBox* m_drives = nullptr;
-    QFileSystemModel* m_folderModel = nullptr;
-    QTreeView* m_folderTree = nullptr;
+    DriveFolderChooser* m_chooser = nullptr;
     QLabel* m_image = nullptr;
     QLabel* m_status = nullptr;
     QTimer* m_showAgain = nullptr;

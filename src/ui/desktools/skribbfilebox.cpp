@@ -1,16 +1,13 @@
 #include "ui/desktools/skribbfilebox.h"
 
-#include "common/fileexists.h"
 #include "desktools/editorfile.h"
 #include "desktools/editorfilelist.h"
 #include "ui/widgets/dialogs.h"
-#include "ui/widgets/folderwidgets.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/formwidgets.h"
 #include "ui/widgets/rightbuttondrag.h"
 
 #include <QComboBox>
-#include <QDir>
-#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -28,8 +25,7 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
-    : QFrame(parent), m_mode(mode), m_drives(makeDriveBox(this)), m_folderModel(new QFileSystemModel(this)),
-      m_folderTree(makeFolderTree(this, m_folderModel)) {
+    : QFrame(parent), m_mode(mode), m_chooser(new DriveFolderChooser(this)) {
     const bool open = mode == Mode::Open;
     setObjectName(open ? u"Dateiauswahl"_s : u"Dateiauswahl2"_s);
     setFrameShape(QFrame::StyledPanel);
@@ -38,14 +34,16 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
     setAutoFillBackground(true);
     makeDraggableWithRightButton(this);
 
-    m_drives->setObjectName(open ? u"Drive1"_s : u"Drive2"_s);
-    m_folderTree->setObjectName(open ? u"Dir1"_s : u"Dir2"_s);
-    m_folderTree->setMinimumSize(230, 12 * fontMetrics().lineSpacing());
-    connect(m_drives, &QComboBox::activated, this, &SkribbFileBox::chooseDrive);
-    connect(m_folderTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &SkribbFileBox::showCurrentFolder);
-    // Rows above the chosen folder arrive later from the model's thread; keep it in view.
-    keepCurrentFolderInView(m_folderTree, m_folderModel);
+    QComboBox* drives = m_chooser->driveBox();
+    QTreeView* folders = m_chooser->folderTree();
+    if (!open) {
+        drives->setObjectName(u"Drive2"_s);
+        folders->setObjectName(u"Dir2"_s);
+    }
+    folders->setMinimumSize(230, 12 * fontMetrics().lineSpacing());
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &SkribbFileBox::showFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
+            [this] { Dialogs::information(this, QString::fromUtf16(kEditorDriveMissing)); });
 
     auto* title = new QLabel(open ? tr("Datei öffnen") : tr("Speichern unter"), this);
     QFont bold = title->font();
@@ -65,7 +63,7 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
     layout->addLayout(header);
     auto* driveRow = new QHBoxLayout;
     driveRow->addWidget(new QLabel(tr("Laufwerk:"), this));
-    driveRow->addWidget(m_drives, 1);
+    driveRow->addWidget(drives, 1);
     layout->addLayout(driveRow);
 
     if (open) {
@@ -84,7 +82,7 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
         auto* lists = new QGridLayout;
         lists->addWidget(new QLabel(tr("Verzeichnisse"), this), 0, 0);
         lists->addWidget(new QLabel(tr("Dateien"), this), 0, 1);
-        lists->addWidget(m_folderTree, 1, 0, 2, 1);
+        lists->addWidget(folders, 1, 0, 2, 1);
         lists->addWidget(m_files, 1, 1);
         auto* patternRow = new QHBoxLayout;
         patternRow->addWidget(new QLabel(tr("Filter:"), this));
@@ -98,11 +96,11 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
         m_name = new QLineEdit(this);
         m_name->setObjectName(u"txt_name"_s);
         auto* save = namedButton(u"saveas"_s, tr("speichern"), this);
-        const auto request = [this] { emit saveAsRequested(m_folder, m_name->text()); };
+        const auto request = [this] { emit saveAsRequested(folder(), m_name->text()); };
         connect(save, &QPushButton::clicked, this, request);
         connect(m_name, &QLineEdit::returnPressed, this, request);
         layout->addWidget(new QLabel(tr("Verzeichnis"), this));
-        layout->addWidget(m_folderTree, 1);
+        layout->addWidget(folders, 1);
         auto* nameRow = new QHBoxLayout;
         nameRow->addWidget(new QLabel(tr("Dateiname:"), this));
         nameRow->addWidget(m_name, 1);
@@ -117,20 +115,15 @@ SkribbFileBox::SkribbFileBox(Mode mode, QWidget* parent)
 }
 
 bool SkribbFileBox::setFolder(const QString& folder) {
-    const QModelIndex index =
-        folderExists(folder) ? m_folderModel->index(QDir::fromNativeSeparators(folder)) : QModelIndex();
-    if (!index.isValid())
-        return false;
-    m_folderTree->setCurrentIndex(index);
-    m_folderTree->expand(index);
-    m_folderTree->scrollTo(index);
-    // The same index again announces nothing; the box must still show this folder.
-    showCurrentFolder();
-    return true;
+    return m_chooser->setCurrentFolder(folder);
+}
+
+QString SkribbFileBox::folder() const {
+    return m_chooser->folder();
 }
 
 QString SkribbFileBox::drive() const {
-    return m_drives->currentText();
+    return m_chooser->driveBox()->currentText();
 }
 
 void SkribbFileBox::setPattern(const QString& pattern) {
@@ -176,34 +169,21 @@ void SkribbFileBox::showOverParent(QPoint defaultPlace) {
     raise();
 }
 
-void SkribbFileBox::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (folderExists(root) && setFolder(root))
-        return;
-    Dialogs::information(this, QString::fromUtf16(kEditorDriveMissing));
-    selectDriveOf(m_drives, m_folder);
-}
-
-void SkribbFileBox::showCurrentFolder() {
-    const QModelIndex index = m_folderTree->currentIndex();
-    if (!index.isValid())
-        return;
-    m_folder = QDir::toNativeSeparators(m_folderModel->filePath(index));
-    selectDriveOf(m_drives, m_folder);
+void SkribbFileBox::showFolder(const QString& folder) {
     refreshFiles();
-    emit folderChanged(m_folder, drive());
+    emit folderChanged(folder, drive());
 }
 
 void SkribbFileBox::refreshFiles() {
     if (!m_files)
         return;
     m_files->clear();
-    m_files->addItems(editorFilesIn(m_folder, m_pattern->text()));
+    m_files->addItems(editorFilesIn(folder(), m_pattern->text()));
 }
 
 void SkribbFileBox::requestLoad() {
     const QListWidgetItem* item = m_files->currentItem();
-    emit loadRequested(m_folder, item && item->isSelected() ? item->text() : QString());
+    emit loadRequested(folder(), item && item->isSelected() ? item->text() : QString());
 }
 
 } // namespace quenfor

@@ -2,15 +2,12 @@
 
 #include <QFrame>
 
-class QComboBox;
-class QFileSystemModel;
 class QLineEdit;
 class QListWidget;
-class QTreeView;
 
 namespace quenfor {
 
-class StatusHints;
+class DriveFolderChooser;
 
 // The text editor's two file boxes, floating over its text and movable with the right mouse
 // button: the open box "Dateiauswahl" (Drive1, Dir1, File1, Filter, cmdLoad) and the save-as box
@@ -25,7 +22,7 @@ public:
 
     // Shows the folder and selects its drive; false (and nothing changes) when it does not exist.
     bool setFolder(const QString& folder);
-    QString folder() const { return m_folder; }
+    QString folder() const;
     QString drive() const;
 
     // The open box's pattern and its listed files.
@@ -48,17 +45,13 @@ signals:
     void folderChanged(const QString& folder, const QString& drive);
 
 private:
-    void chooseDrive(int index);
-    void showCurrentFolder();
+    void showFolder(const QString& folder);
     void refreshFiles();
     void requestLoad();
 
     Mode m_mode;
-    QString m_folder;
     bool m_placed = false;
-    QComboBox* m_drives;
-    QFileSystemModel* m_folderModel;
-    QTreeView* m_folderTree;
+    DriveFolderChooser* m_chooser;
     QListWidget* m_files = nullptr;
     QLineEdit* m_pattern = nullptr;
     QLineEdit* m_name = nullptr;

@@ -1,7 +1,7 @@
 #include "ui/knowledge/favoritespanel.h"
 
 #include "ui/main/entrylinepanel.h"
-#include "ui/widgets/folderwidgets.h"
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/panelheader.h"
 #include "ui/widgets/statushints.h"
 
@@ -11,16 +11,11 @@
 #include <QComboBox>
 #include <QDir>
 #include <QEvent>
-#include <QFileInfo>
-#include <QFileSystemModel>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QStorageInfo>
-#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -28,32 +23,19 @@ using namespace Qt::StringLiterals;
 
 namespace quenfor {
 
-namespace {
-
-bool isReadableFavouriteFolder(const QString& folder) {
-    const QFileInfo info(folder);
-#ifdef Q_OS_WIN
-    return info.isDir() && info.isReadable();
-#else
-    // Listing a folder needs the right to read it and to pass through it.
-    return info.isDir() && info.isReadable() && info.isExecutable();
-#endif
-}
-
-} // namespace
-
 FavoritesPanel::FavoritesPanel(QWidget* parent)
-    : QFrame(parent), m_drives(new QComboBox(this)), m_model(new QFileSystemModel(this)),
-      m_folders(new QTreeView(this)), m_path(new QLineEdit(this)), m_name(new QLineEdit(this)),
-      m_add(new QPushButton(tr("Favorit hinzufügen"), this)), m_close(new QPushButton(tr("Schließen"), this)),
-      m_help(new QLabel(tr("Was ist ein Favorit?"), this)), m_message(new QLabel(this)),
-      m_keepInView(new QTimer(this)) {
+    : QFrame(parent), m_chooser(new DriveFolderChooser(this, DriveFolderChooser::View::OneDrive)),
+      m_path(new QLineEdit(this)), m_name(new QLineEdit(this)), m_add(new QPushButton(tr("Favorit hinzufügen"), this)),
+      m_close(new QPushButton(tr("Schließen"), this)), m_help(new QLabel(tr("Was ist ein Favorit?"), this)),
+      m_message(new QLabel(this)) {
     setObjectName(u"Favoriten"_s);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
 
-    m_drives->setObjectName(u"Drive_Favo"_s);
-    m_folders->setObjectName(u"Dir_Favo"_s);
+    QComboBox* drives = m_chooser->driveBox();
+    QTreeView* folders = m_chooser->folderTree();
+    drives->setObjectName(u"Drive_Favo"_s);
+    folders->setObjectName(u"Dir_Favo"_s);
     m_path->setObjectName(u"txt_Favo"_s);
     m_name->setObjectName(u"txt_Favoname"_s);
     m_add->setObjectName(u"cmd_favo"_s);
@@ -61,14 +43,7 @@ FavoritesPanel::FavoritesPanel(QWidget* parent)
     m_help->setObjectName(u"lbl_favohelp"_s);
     m_message->setObjectName(u"lbl_favomeldung"_s);
 
-    // The model reads folders in its own thread, so a slow network folder never freezes the window.
-    m_model->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    m_folders->setModel(m_model);
-    for (int column = 1; column < m_model->columnCount(); ++column)
-        m_folders->hideColumn(column);
-    m_folders->setHeaderHidden(true);
-    m_folders->setUniformRowHeights(true);
-    m_folders->setMinimumSize(260, 6 * fontMetrics().lineSpacing());
+    folders->setMinimumSize(260, 6 * fontMetrics().lineSpacing());
 
     m_path->setMinimumWidth(40 * fontMetrics().averageCharWidth());
     m_path->setClearButtonEnabled(true);
@@ -90,9 +65,9 @@ FavoritesPanel::FavoritesPanel(QWidget* parent)
 
     auto* driveRow = new QHBoxLayout;
     auto* driveLabel = new QLabel(tr("Laufwerk:"), this);
-    driveLabel->setBuddy(m_drives);
+    driveLabel->setBuddy(drives);
     driveRow->addWidget(driveLabel);
-    driveRow->addWidget(m_drives, 1);
+    driveRow->addWidget(drives, 1);
 
     auto* pathLabel = new QLabel(tr("Verzeichnis des Favoriten"), this);
     pathLabel->setBuddy(m_path);
@@ -107,7 +82,7 @@ FavoritesPanel::FavoritesPanel(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(header);
     layout->addLayout(driveRow);
-    layout->addWidget(m_folders, 1);
+    layout->addWidget(folders, 1);
     layout->addWidget(pathLabel);
     layout->addWidget(m_path);
     layout->addWidget(nameLabel);
@@ -115,32 +90,16 @@ FavoritesPanel::FavoritesPanel(QWidget* parent)
     layout->addLayout(buttonRow);
     layout->addWidget(m_message);
 
-    connect(m_drives, &QComboBox::activated, this, &FavoritesPanel::chooseDrive);
-    connect(m_folders->selectionModel(), &QItemSelectionModel::currentChanged, this, &FavoritesPanel::folderChosen);
-    // The rows around a folder shown from a path arrive later from the model's thread and are
-    // sorted later still; the folder is kept in view until the user takes over the browser.
-    m_keepInView->setSingleShot(true);
-    m_keepInView->setInterval(0);
-    connect(m_keepInView, &QTimer::timeout, this, [this] {
-        if (m_folders->currentIndex().isValid())
-            m_folders->scrollTo(m_folders->currentIndex(), QAbstractItemView::PositionAtCenter);
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &FavoritesPanel::folderChosen);
+    // No medium, no connection: the chooser puts the box back on the drive of the shown folder.
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this, [this](const QString& root) {
+        showMessage(tr("Das Laufwerk \"%1\" kann nicht gelesen werden.").arg(root));
     });
-    const auto rowsMoved = [this] {
-        if (m_keepFolderInView)
-            m_keepInView->start();
-    };
-    connect(m_model, &QFileSystemModel::directoryLoaded, this, rowsMoved);
-    connect(m_model, &QAbstractItemModel::layoutChanged, this, rowsMoved);
-    connect(m_model, &QAbstractItemModel::rowsInserted, this, rowsMoved);
-    for (QObject* userInput : {static_cast<QObject*>(m_folders), static_cast<QObject*>(m_folders->viewport()),
-                               static_cast<QObject*>(m_folders->verticalScrollBar())})
-        userInput->installEventFilter(this);
     connect(m_path, &QLineEdit::textChanged, this, &FavoritesPanel::colourPath);
     connect(m_path, &QLineEdit::textEdited, this, &FavoritesPanel::pathEdited);
     connect(m_add, &QPushButton::clicked, this,
             [this] { emit lineToDocument(favoriteLine(m_path->text(), m_name->text())); });
 
-    fillDrives();
     // The browser starts in the home folder; the fields stay empty until the user chooses.
     m_followingPath = true;
     showFolder(QDir::homePath());
@@ -149,8 +108,8 @@ FavoritesPanel::FavoritesPanel(QWidget* parent)
 }
 
 void FavoritesPanel::registerHints(StatusHints& hints) {
-    hints.add(m_drives, tr("Laufwerk des Favoritenverzeichnisses wählen"));
-    hints.add(m_folders, tr("Verzeichnis wählen, das der Dateibrowser als Favorit zeigen soll"));
+    hints.add(m_chooser->driveBox(), tr("Laufwerk des Favoritenverzeichnisses wählen"));
+    hints.add(m_chooser->folderTree(), tr("Verzeichnis wählen, das der Dateibrowser als Favorit zeigen soll"));
     hints.add(m_path, tr("Verzeichnis des Favoriten; rot, wenn es nicht existiert"));
     hints.add(m_name, tr("Name, unter dem der Favorit im Dateibrowser erscheint (ohne Leerzeichen)"));
     hints.add(m_add, tr("Hängt die Favoritenzeile an das Ende der Datei an"));
@@ -185,33 +144,10 @@ QString FavoritesPanel::name() const {
 }
 
 bool FavoritesPanel::showFolder(const QString& folder) {
-    if (folder.isEmpty() || !isReadableFavouriteFolder(folder))
-        return false;
-    const QString clean = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
-    const int drive = driveIndexOf(clean);
-    m_drives->setCurrentIndex(drive);
-    const QString root = QDir::fromNativeSeparators(m_drives->itemText(drive));
-    m_model->setRootPath(root);
-    m_folders->setRootIndex(m_model->index(root));
-    const QModelIndex index = m_model->index(clean);
-    m_folder = QDir::toNativeSeparators(clean);
-    if (index == m_folders->rootIndex()) {
-        // The drive root is no row of its own: choosing the drive chooses it.
-        m_folders->setCurrentIndex(QModelIndex());
-        folderChosen();
-    } else {
-        m_folders->setCurrentIndex(index);
-        m_folders->expand(index);
-        m_folders->scrollTo(index, QAbstractItemView::PositionAtCenter);
-        m_keepFolderInView = true;
-    }
-    return true;
+    return m_chooser->setCurrentFolder(folder);
 }
 
 bool FavoritesPanel::eventFilter(QObject* watched, QEvent* event) {
-    const QEvent::Type type = event->type();
-    if (watched != m_help && (type == QEvent::MouseButtonPress || type == QEvent::Wheel || type == QEvent::KeyPress))
-        m_keepFolderInView = false;
     if (watched == m_help && event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         emit helpRequested(favoriteHelpText());
@@ -220,38 +156,10 @@ bool FavoritesPanel::eventFilter(QObject* watched, QEvent* event) {
     return QFrame::eventFilter(watched, event);
 }
 
-void FavoritesPanel::fillDrives() {
-    fillDriveBox(m_drives);
-}
-
-int FavoritesPanel::driveIndexOf(const QString& folder) {
-    const QString root = QDir::toNativeSeparators(QStorageInfo(folder).rootPath());
-    int index = m_drives->findText(root);
-    if (index < 0) {
-        // A volume that was mounted after the list was filled.
-        m_drives->addItem(root);
-        index = m_drives->count() - 1;
-    }
-    return index;
-}
-
-void FavoritesPanel::chooseDrive(int index) {
-    const QString root = m_drives->itemText(index);
-    if (showFolder(root)) {
-        showMessage(QString());
-        return;
-    }
-    // No medium, no connection: the list goes back to the drive of the shown folder.
-    showMessage(tr("Das Laufwerk \"%1\" kann nicht gelesen werden.").arg(root));
-    m_drives->setCurrentIndex(driveIndexOf(QDir::fromNativeSeparators(m_folder)));
-}
-
-void FavoritesPanel::folderChosen() {
-    const QModelIndex current = m_folders->currentIndex();
-    if (current.isValid())
-        m_folder = QDir::toNativeSeparators(m_model->filePath(current));
+void FavoritesPanel::folderChosen(const QString& folder) {
+    showMessage(QString());
     if (!m_followingPath)
-        m_path->setText(m_folder);
+        m_path->setText(folder);
 }
 
 void FavoritesPanel::pathEdited(const QString& text) {

@@ -2,16 +2,13 @@
 
 #include <QFrame>
 
-class QComboBox;
-class QFileSystemModel;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QTimer;
-class QTreeView;
 
 namespace quenfor {
 
+class DriveFolderChooser;
 class StatusHints;
 
 // The frame "Favoriten" (Favoritenkonstruktor): builds a browser_favorite line from a folder
@@ -47,27 +44,19 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void fillDrives();
-    int driveIndexOf(const QString& folder);
-    void chooseDrive(int index);
-    void folderChosen();
+    void folderChosen(const QString& folder);
     void pathEdited(const QString& text);
     void colourPath();
     void showMessage(const QString& text);
 
-    QComboBox* m_drives;
-    QFileSystemModel* m_model;
-    QTreeView* m_folders;
+    DriveFolderChooser* m_chooser;
     QLineEdit* m_path;
     QLineEdit* m_name;
     QPushButton* m_add;
     QPushButton* m_close;
     QLabel* m_help;
     QLabel* m_message;
-    QTimer* m_keepInView;
-    QString m_folder;                // the folder the browser shows as chosen, native separators
-    bool m_followingPath = false;    // the browser follows the typed path: leave the text alone
-    bool m_keepFolderInView = false; // until the user scrolls or clicks in the browser
+    bool m_followingPath = false; // the browser follows the typed path: leave the text alone
 };
 
 } // namespace quenfor

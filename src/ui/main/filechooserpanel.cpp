@@ -1,14 +1,14 @@
 #include "ui/main/filechooserpanel.h"
 
+#include "ui/widgets/drivefolderchooser.h"
 #include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/panelheader.h"
 
-#include "common/pathseparators.h"
+#include "common/fileexists.h"
 #include "common/pathsplit.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -17,7 +17,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
-#include <QStorageInfo>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -26,39 +25,28 @@ namespace quenfor {
 
 namespace {
 
-#ifdef Q_OS_WIN
-constexpr Qt::CaseSensitivity kPathCase = Qt::CaseInsensitive;
-#else
-constexpr Qt::CaseSensitivity kPathCase = Qt::CaseSensitive;
-#endif
-
-QString normalisedFolder(const QString& folder) {
-    return QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()));
-}
-
-bool isReadableFolder(const QFileInfo& info) {
-#ifdef Q_OS_WIN
-    return info.isReadable();
-#else
-    // Listing a folder needs the right to read it and to pass through it.
-    return info.isReadable() && info.isExecutable();
-#endif
+// Why a folder cannot be shown; empty when it can.
+QString folderRefusal(const QString& folder) {
+    const QString shown = QDir::toNativeSeparators(folder);
+    if (!folderExists(folder))
+        return FileChooserPanel::tr("Der Ordner \"%1\" existiert nicht.").arg(shown);
+    if (!folderCanBeListed(folder))
+        return FileChooserPanel::tr("Der Ordner \"%1\" kann nicht gelesen werden.").arg(shown);
+    return QString();
 }
 
 } // namespace
 
 FileChooserPanel::FileChooserPanel(QWidget* parent)
-    : QFrame(parent), m_drives(new QComboBox(this)), m_folderLabel(new QLabel(this)),
-      m_up(new QPushButton(tr("Übergeordneter Ordner"), this)), m_folderModel(new QFileSystemModel(this)),
-      m_folders(new QListView(this)), m_fileModel(new QFileSystemModel(this)), m_files(new QListView(this)),
+    : QFrame(parent), m_chooser(new DriveFolderChooser(this, DriveFolderChooser::View::FolderList)),
+      m_folderLabel(new QLabel(this)), m_up(new QPushButton(tr("Übergeordneter Ordner"), this)),
+      m_folders(m_chooser->folderList()), m_fileModel(new QFileSystemModel(this)), m_files(new QListView(this)),
       m_pattern(new QComboBox(this)), m_saveName(new QLineEdit(this)),
       m_saveAs(new QPushButton(tr("Speichern als..."), this)), m_message(new QLabel(this)) {
     setObjectName(u"Dateiauswahl"_s);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
 
-    m_drives->setObjectName(u"Drive1"_s);
-    m_folders->setObjectName(u"Dir1"_s);
     m_files->setObjectName(u"File1"_s);
     m_saveName->setObjectName(u"txt_save"_s);
     m_saveAs->setObjectName(u"cmd_SaveAs"_s);
@@ -68,25 +56,16 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
     m_message->setObjectName(u"lbl_message"_s);
 
     // Both models read the folders in their own threads, so a huge or slow folder never freezes
-    // the window. Hidden entries stay out of the lists.
-    m_folderModel->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    m_folders->setModel(m_folderModel);
-    m_folders->setUniformItemSizes(true);
-    // Case-sensitive, because the pattern names both spellings the program takes for its files
-    // (all lower or all upper case) and no mixed one.
+    // the window. Hidden entries stay out of the lists. The files are matched case-sensitively,
+    // because the pattern names both spellings the program takes for its files (all lower or all
+    // upper case) and no mixed one.
     m_fileModel->setFilter(QDir::Files | QDir::CaseSensitive);
     m_fileModel->setNameFilterDisables(false);
     m_files->setModel(m_fileModel);
     m_files->setUniformItemSizes(true);
 
     m_folders->installEventFilter(this);
-    // A model that hides folders drops a drive root ("/") for a moment when it learns that the root
-    // is a folder, and the view then loses its root and shows the drive list. Each change of the
-    // models puts the shown folder back.
-    for (QFileSystemModel* model : {m_folderModel, m_fileModel}) {
-        connect(model, &QAbstractItemModel::rowsInserted, this, &FileChooserPanel::keepRootIndices);
-        connect(model, &QAbstractItemModel::layoutChanged, this, &FileChooserPanel::keepRootIndices);
-    }
+    keepViewOnModelRoot(m_files, m_fileModel);
 
     // Room for a useful number of names even when the window is small.
     for (QListView* view : {m_folders, m_files})
@@ -112,7 +91,7 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
 
     auto* driveRow = new QHBoxLayout;
     driveRow->addWidget(new QLabel(tr("Laufwerk:"), this));
-    driveRow->addWidget(m_drives, 1);
+    driveRow->addWidget(m_chooser->driveBox(), 1);
 
     auto* lists = new QGridLayout;
     lists->addWidget(new QLabel(tr("Ordner"), this), 0, 0);
@@ -141,7 +120,9 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
     layout->addLayout(saveRow);
     layout->addWidget(m_message);
 
-    connect(m_drives, &QComboBox::activated, this, &FileChooserPanel::chooseDrive);
+    connect(m_chooser, &DriveFolderChooser::folderChosen, this, &FileChooserPanel::showFolder);
+    connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
+            [this](const QString& root) { showMessage(folderRefusal(root)); });
     connect(m_folders, &QListView::activated, this, &FileChooserPanel::enterFolder);
     connect(m_up, &QPushButton::clicked, this, &FileChooserPanel::goUp);
     connect(m_files, &QListView::activated, this, &FileChooserPanel::chooseFile);
@@ -151,7 +132,6 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
     connect(m_saveName, &QLineEdit::returnPressed, this, &FileChooserPanel::requestSaveCopy);
     connect(m_saveAs, &QPushButton::clicked, this, &FileChooserPanel::requestSaveAs);
 
-    fillDrives();
     applyPattern();
     // The long default pattern reads from its start.
     m_pattern->lineEdit()->setCursorPosition(0);
@@ -159,39 +139,25 @@ FileChooserPanel::FileChooserPanel(QWidget* parent)
 }
 
 bool FileChooserPanel::setFolder(const QString& folder) {
-    const QFileInfo info(folder);
-    if (folder.isEmpty() || !info.isDir()) {
-        showMessage(tr("Der Ordner \"%1\" existiert nicht.").arg(QDir::toNativeSeparators(folder)));
+    const QString refusal = folderRefusal(folder);
+    if (!refusal.isEmpty()) {
+        showMessage(refusal);
         return false;
     }
-    if (!isReadableFolder(info)) {
-        showMessage(tr("Der Ordner \"%1\" kann nicht gelesen werden.").arg(QDir::toNativeSeparators(folder)));
-        return false;
-    }
-    showMessage(QString());
-
-    const QString shown = normalisedFolder(folder);
-    const QString modelPath = QDir::fromNativeSeparators(shown);
-    m_folderModel->setRootPath(modelPath);
-    m_fileModel->setRootPath(modelPath);
-    keepRootIndices();
-    m_folderLabel->setText(shown);
-    m_up->setEnabled(!QDir(modelPath).isRoot());
-    if (shown == m_folder)
-        return true;
-    m_folder = shown;
-    selectDriveOf(shown);
-    emit folderChanged(m_folder, drive());
-    return true;
+    return m_chooser->setCurrentFolder(folder);
 }
 
-void FileChooserPanel::keepRootIndices() {
-    for (QListView* view : {m_folders, m_files}) {
-        const auto* model = static_cast<const QFileSystemModel*>(view->model());
-        const QModelIndex root = model->index(model->rootPath());
-        if (view->rootIndex() != root)
-            view->setRootIndex(root);
-    }
+void FileChooserPanel::showFolder(const QString& folder) {
+    showMessage(QString());
+    const QString modelPath = QDir::fromNativeSeparators(folder);
+    m_fileModel->setRootPath(modelPath);
+    m_files->setRootIndex(m_fileModel->index(modelPath));
+    m_folderLabel->setText(folder);
+    m_up->setEnabled(!QDir(modelPath).isRoot());
+    if (folder == m_announced)
+        return;
+    m_announced = folder;
+    emit folderChanged(folder, drive());
 }
 
 bool FileChooserPanel::eventFilter(QObject* watched, QEvent* event) {
@@ -205,11 +171,11 @@ bool FileChooserPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QString FileChooserPanel::folder() const {
-    return m_folder;
+    return m_chooser->folder();
 }
 
 QString FileChooserPanel::drive() const {
-    return m_drives->currentText();
+    return m_chooser->driveBox()->currentText();
 }
 
 void FileChooserPanel::setSaveName(const QString& name) {
@@ -237,49 +203,20 @@ QString FileChooserPanel::allFilesPattern() {
     return u"*.*"_s;
 }
 
-void FileChooserPanel::fillDrives() {
-    fillDriveBox(m_drives);
-}
-
-void FileChooserPanel::selectDriveOf(const QString& folder) {
-    // The drive is the longest listed root that the folder lies under ("/home" before "/").
-    const QString path = QDir::fromNativeSeparators(folder);
-    int best = -1;
-    qsizetype bestLength = -1;
-    for (int i = 0; i < m_drives->count(); ++i) {
-        const QString root = QDir::fromNativeSeparators(m_drives->itemText(i));
-        if (root.size() > bestLength && beginsWithPathPrefix(path, root, kPathCase)) {
-            best = i;
-            bestLength = root.size();
-        }
-    }
-    if (best < 0) {
-        // A volume that mounted after the list was filled.
-        m_drives->addItem(QDir::toNativeSeparators(QStorageInfo(folder).rootPath()));
-        best = m_drives->count() - 1;
-    }
-    m_drives->setCurrentIndex(best);
-}
-
-void FileChooserPanel::chooseDrive(int index) {
-    if (!setFolder(m_drives->itemText(index)))
-        selectDriveOf(m_folder);
-}
-
 void FileChooserPanel::enterFolder(const QModelIndex& index) {
     if (index.isValid())
-        setFolder(m_folderModel->filePath(index));
+        setFolder(m_chooser->model()->filePath(index));
 }
 
 void FileChooserPanel::goUp() {
-    QDir dir(QDir::fromNativeSeparators(m_folder));
+    QDir dir(QDir::fromNativeSeparators(folder()));
     if (dir.cdUp())
         setFolder(dir.absolutePath());
 }
 
 void FileChooserPanel::chooseFile(const QModelIndex& index) {
     if (index.isValid() && !m_fileModel->isDir(index))
-        emit fileChosen(joinFolderAndName(m_folder, m_fileModel->fileName(index)));
+        emit fileChosen(joinFolderAndName(folder(), m_fileModel->fileName(index)));
 }
 
 void FileChooserPanel::applyPattern() {
@@ -298,13 +235,13 @@ void FileChooserPanel::applyPattern() {
 void FileChooserPanel::requestSaveAs() {
     const QString name = m_saveName->text();
     if (!name.trimmed().isEmpty())
-        emit saveAsRequested(m_folder, name);
+        emit saveAsRequested(folder(), name);
 }
 
 void FileChooserPanel::requestSaveCopy() {
     const QString name = m_saveName->text();
     if (!name.trimmed().isEmpty())
-        emit saveCopyRequested(m_folder, name);
+        emit saveCopyRequested(folder(), name);
 }
 
 void FileChooserPanel::showMessage(const QString& text) {

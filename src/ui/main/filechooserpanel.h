@@ -12,6 +12,8 @@ class QPushButton;
 
 namespace quenfor {
 
+class DriveFolderChooser;
+
 // The file chooser "Dateiauswahl": drive, folder and file lists for opening, and the save name for
 // saving as or saving a copy into the shown folder. The panel only reports what the user chose;
 // the window opens and saves.
@@ -51,10 +53,7 @@ signals:
     void closeRequested();
 
 private:
-    void keepRootIndices();
-    void fillDrives();
-    void selectDriveOf(const QString& folder);
-    void chooseDrive(int index);
+    void showFolder(const QString& folder);
     void enterFolder(const QModelIndex& index);
     void goUp();
     void chooseFile(const QModelIndex& index);
@@ -63,11 +62,10 @@ private:
     void requestSaveCopy();
     void showMessage(const QString& text);
 
-    QString m_folder;
-    QComboBox* m_drives;
+    QString m_announced; // the folder folderChanged named last
+    DriveFolderChooser* m_chooser;
     QLabel* m_folderLabel;
     QPushButton* m_up;
-    QFileSystemModel* m_folderModel;
     QListView* m_folders;
     QFileSystemModel* m_fileModel;
     QListView* m_files;

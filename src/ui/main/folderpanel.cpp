@@ -1,7 +1,7 @@
 #include "ui/main/folderpanel.h"
 
+#include "ui/widgets/folderwidgets.h"
 #include "ui/widgets/panelheader.h"
-
 #include "ui/widgets/statushints.h"
 
 #include <QClipboard>
@@ -9,7 +9,6 @@
 #include <QFileSystemModel>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeView>
@@ -20,21 +19,14 @@ using namespace Qt::StringLiterals;
 namespace quenfor {
 
 FolderPanel::FolderPanel(QWidget* parent)
-    : QFrame(parent), m_model(new QFileSystemModel(this)), m_tree(new QTreeView(this)), m_chosen(new QLabel(this)),
-      m_copy(new QPushButton(tr("Pfad kopieren"), this)), m_close(new QPushButton(tr("Ausblenden"), this)) {
+    : QFrame(parent), m_model(new QFileSystemModel(this)), m_tree(makeFolderTree(this, m_model)),
+      m_chosen(new QLabel(this)), m_copy(new QPushButton(tr("Pfad kopieren"), this)),
+      m_close(new QPushButton(tr("Ausblenden"), this)) {
     setObjectName(u"frameDir"_s);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
 
-    // The model reads folders in its own thread, so a huge folder never freezes the window.
-    m_model->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
-    m_model->setRootPath(QString());
     m_tree->setObjectName(u"tree_dir"_s);
-    m_tree->setModel(m_model);
-    for (int column = 1; column < m_model->columnCount(); ++column)
-        m_tree->hideColumn(column);
-    m_tree->setHeaderHidden(true);
-    m_tree->setUniformRowHeights(true);
     m_tree->setMinimumSize(320, 8 * fontMetrics().lineSpacing());
 
     m_chosen->setObjectName(u"lbl_dir"_s);
@@ -56,11 +48,7 @@ FolderPanel::FolderPanel(QWidget* parent)
     layout->addLayout(footer);
 
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, &FolderPanel::showChosenFolder);
-    // The rows above the chosen folder arrive later from the model's thread; keep it in view.
-    connect(m_model, &QFileSystemModel::directoryLoaded, this, [this] {
-        if (m_tree->currentIndex().isValid())
-            m_tree->scrollTo(m_tree->currentIndex(), QAbstractItemView::PositionAtCenter);
-    });
+    keepCurrentFolderInView(m_tree, m_model);
     connect(m_copy, &QPushButton::clicked, this, &FolderPanel::copyChosenFolder);
 }
 
@@ -70,12 +58,7 @@ void FolderPanel::registerHints(StatusHints& hints) {
 }
 
 void FolderPanel::setFolder(const QString& folder) {
-    const QModelIndex index = m_model->index(folder);
-    if (!index.isValid())
-        return;
-    m_tree->setCurrentIndex(index);
-    m_tree->expand(index);
-    m_tree->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    showFolderInTree(m_tree, m_model, folder);
 }
 
 QString FolderPanel::chosenFolder() const {

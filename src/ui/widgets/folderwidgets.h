@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QAbstractItemView;
 class QComboBox;
 class QFileSystemModel;
 class QLabel;
@@ -17,9 +18,6 @@ QLabel* makeStatusLine(QWidget* parent, const QString& objectName);
 
 // Drive1: the drive roots (mounted volumes elsewhere), in native form.
 QComboBox* makeDriveBox(QWidget* parent);
-void fillDriveBox(QComboBox* box);
-// Selects the listed drive the folder lies on (the longest root that contains it).
-void selectDriveOf(QComboBox* box, const QString& folder);
 
 // Dir1: a tree of folders only (no files, no extra columns) over the given model.
 QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model);
@@ -28,8 +26,14 @@ QTreeView* makeFolderTree(QWidget* parent, QFileSystemModel* model);
 // such folder (the window then says so in its own words).
 bool showFolderInTree(QTreeView* tree, QFileSystemModel* model, const QString& folder);
 
-// The model fills the rows above the current folder later, from its own thread, which pushes the
-// folder out of view; this keeps scrolling it back for as long as the tree lives.
+// The model fills the rows around the current folder later, from its own thread, and sorts them
+// later still, which pushes the folder out of view. This scrolls it back after every folder
+// showFolderInTree shows, until the user scrolls, clicks or types in the tree.
 void keepCurrentFolderInView(QTreeView* tree, QFileSystemModel* model);
+
+// A model that hides folders drops a drive root ("/") for a moment when it learns that the root is
+// a folder, and a view showing the root's entries then shows the drive list instead. This puts the
+// model's root back into the view after each change of the model.
+void keepViewOnModelRoot(QAbstractItemView* view, QFileSystemModel* model);
 
 } // namespace quenfor

@@ -125,6 +125,31 @@ private slots:
         QVERIFY(!child<QGroupBox>(window, u"Frame6"_s)->isVisible());
     }
 
+    void anUnreadableDriveIsToldAndTheTargetStays() {
+        ScreenshotWindow window;
+        auto* drives = child<QComboBox>(window, u"Drive2"_s);
+        drives->addItem(path(u"kein Laufwerk"_s));
+        // The temporary folder stands for a network drive that holds the target.
+        const QString dir = QDir::toNativeSeparators(m_dir->path());
+        drives->addItem(dir);
+        const int target = drives->count() - 1;
+        // A target that does not exist yet still decides the drive the box goes back to.
+        window.setTargetFolder(m_dir->filePath(u"neu"_s));
+        QCOMPARE(drives->currentIndex(), target);
+
+        drives->setCurrentIndex(target - 1);
+        emit drives->activated(target - 1);
+        QCOMPARE(status(window), u"Laufwerk nicht verfügbar !"_s);
+        QCOMPARE(drives->currentIndex(), target);
+        QCOMPARE(window.targetFolder(), path(u"neu"_s));
+        QCOMPARE(child<QLabel>(window, u"lbl_ordner"_s)->text(), path(u"neu"_s));
+
+        // A readable drive makes its root the target.
+        emit drives->activated(target);
+        QCOMPARE(window.targetFolder(), dir);
+        QCOMPARE(child<QLabel>(window, u"lbl_ordner"_s)->text(), dir);
+    }
+
     void anUnusableFieldOrNameStopsTheShotBeforeItIsCounted() {
         auto window = aimedWindow();
         child(*window, u"HOEHE"_s)->clear();

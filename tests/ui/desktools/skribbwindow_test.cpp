@@ -433,6 +433,27 @@ private slots:
         QCOMPARE(openBox->pos(), before + QPoint(40, 30));
     }
 
+    void anUnreadableDriveInEitherBoxIsToldAndTheBoxGoesBack() {
+        SkribbWindow window;
+        window.show();
+        const qsizetype askedBefore = m_asked.size();
+        for (const QString& name : {u"Drive1"_s, u"Drive2"_s}) {
+            auto* drives = child<QComboBox>(window, name);
+            const int shown = drives->currentIndex();
+            QVERIFY(shown >= 0);
+            drives->addItem(path(u"kein Laufwerk"_s));
+            drives->setCurrentIndex(drives->count() - 1);
+            emit drives->activated(drives->count() - 1);
+            QCOMPARE(m_asked.last(), u"Laufwerk nicht verfügbar !"_s);
+            QCOMPARE(drives->currentIndex(), shown);
+        }
+        QCOMPARE(m_asked.size(), askedBefore + 2);
+        // The save-as box still saves into the folder it showed.
+        child<QLineEdit>(window, u"txt_name"_s)->setText(u"neu.txt"_s);
+        child<QPushButton>(window, u"saveas"_s)->click();
+        QCOMPARE(window.fileName(), path(u"neu.txt"_s));
+    }
+
     void coloursFrameTogglesAndColoursTheText() {
         SkribbWindow window;
         window.show();

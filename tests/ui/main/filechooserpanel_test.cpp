@@ -4,6 +4,7 @@
 
 #include "ui/main/filechooserpanel.h"
 
+#include <QComboBox>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QLabel>
@@ -136,6 +137,29 @@ private slots:
         QFile::setPermissions(work(u"unten"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QVERIFY(message->text().contains(u"kann nicht gelesen werden"_s));
         QCOMPARE(m_panel->folder(), before);
+    }
+
+    void anUnreadableDriveIsToldAndTheDriveGoesBack() {
+        QVERIFY(m_panel->setFolder(m_work->path()));
+        auto* drives = m_panel->findChild<QComboBox*>(u"Drive1"_s);
+        auto* message = m_panel->findChild<QLabel*>(u"lbl_message"_s);
+        const int shown = drives->currentIndex();
+        const QString missing = QDir::toNativeSeparators(work(u"kein Laufwerk"_s));
+        drives->addItem(missing);
+        QSignalSpy changed(m_panel.get(), &FileChooserPanel::folderChanged);
+        drives->setCurrentIndex(drives->count() - 1);
+        emit drives->activated(drives->count() - 1);
+        QVERIFY(message->isVisible());
+        QCOMPARE(message->text(), u"Der Ordner \"%1\" existiert nicht."_s.arg(missing));
+        QCOMPARE(drives->currentIndex(), shown);
+        QCOMPARE(m_panel->folder(), QDir::toNativeSeparators(m_work->path()));
+        QCOMPARE(changed.count(), 0);
+
+        // A readable drive shows its root and clears the message.
+        emit drives->activated(shown);
+        QVERIFY(!message->isVisible());
+        QCOMPARE(m_panel->folder(), drives->itemText(shown));
+        QCOMPARE(changed.count(), 1);
     }
 
     void saveRequestsNeedAName() {
