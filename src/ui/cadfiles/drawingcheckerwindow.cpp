@@ -78,15 +78,13 @@ void DrawingCheckerWindow::buildWidgets() {
     info->setFont(infoFont);
 
     m_chooser = new DriveFolderChooser(this);
-    m_drives = m_chooser->driveBox();
-    m_folderTree = m_chooser->folderTree();
     connect(m_chooser, &DriveFolderChooser::folderChosen, this, &DrawingCheckerWindow::showFolder);
     connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
             [this] { m_status->setText(tr("Laufwerk nicht verfügbar !")); });
-    m_hints->add(m_drives, tr("Laufwerk wählen"));
+    m_hints->add(m_chooser->driveBox(), tr("Laufwerk wählen"));
 
-    m_folderTree->setMinimumSize(260, 14 * fontMetrics().lineSpacing());
-    m_hints->add(m_folderTree, tr("Verzeichnis mit den Zeichnungen wählen"));
+    m_chooser->folderTree()->setMinimumSize(260, 14 * fontMetrics().lineSpacing());
+    m_hints->add(m_chooser->folderTree(), tr("Verzeichnis mit den Zeichnungen wählen"));
 
     m_files = new QListWidget(this);
     m_files->setObjectName(u"File1"_s);
@@ -145,9 +143,9 @@ void DrawingCheckerWindow::buildWidgets() {
     auto* left = new QVBoxLayout;
     auto* driveRow = new QHBoxLayout;
     driveRow->addWidget(new QLabel(tr("Laufwerk:"), this));
-    driveRow->addWidget(m_drives, 1);
+    driveRow->addWidget(m_chooser->driveBox(), 1);
     left->addLayout(driveRow);
-    left->addWidget(m_folderTree, 1);
+    left->addWidget(m_chooser->folderTree(), 1);
 
     auto* middle = new QVBoxLayout;
     middle->addWidget(new QLabel(tr("Zeichnungen:"), this));
@@ -189,7 +187,7 @@ void DrawingCheckerWindow::restoreSettings() {
 
 void DrawingCheckerWindow::closeEvent(QCloseEvent* event) {
     cancelCheck();
-    storeDrawingCheckerSettings({m_folder, storedDriveOf(m_drives->currentText())});
+    storeDrawingCheckerSettings({m_folder, storedDriveOf(m_chooser->driveBox()->currentText())});
     QWidget::closeEvent(event);
 }
 
@@ -326,8 +324,7 @@ void DrawingCheckerWindow::setRunning(bool running) {
     m_cancel->setVisible(running);
     m_cancel->setEnabled(running);
     m_check->setEnabled(!running);
-    m_drives->setEnabled(!running);
-    m_folderTree->setEnabled(!running);
+    m_chooser->setEnabled(!running);
 }
 
 void DrawingCheckerWindow::setListedModels(const QStringList& names) {

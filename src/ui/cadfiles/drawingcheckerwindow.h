@@ -5,7 +5,6 @@
 
 #include <memory>
 
-class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -13,7 +12,6 @@ class QListWidgetItem;
 class QProgressBar;
 class QPushButton;
 class QTimer;
-class QTreeView;
 
 namespace quenfor {
 
@@ -66,23 +64,24 @@ private:
     void setNote(const QString& note);
     void setListedModels(const QStringList& names);
 
+    // The drawings' folder and its files.
     QString m_folder;
-    QString m_codepage;
-    std::shared_ptr<DrawingCheckJob> m_job;
-
-    QTimer* m_progressTimer;
-    StatusHints* m_hints = nullptr;
     DriveFolderChooser* m_chooser = nullptr;
-    QComboBox* m_drives = nullptr;
-    QTreeView* m_folderTree = nullptr;
     QListWidget* m_files = nullptr;
+
+    // The check: the model asked for, the running job and what it found.
+    QString m_codepage;
     QLineEdit* m_modelName = nullptr;
     QLabel* m_listedModels = nullptr;
-    QListWidget* m_differing = nullptr;
     QPushButton* m_check = nullptr;
+    QTimer* m_progressTimer;
+    std::shared_ptr<DrawingCheckJob> m_job;
     QProgressBar* m_progressBar = nullptr;
     QPushButton* m_cancel = nullptr;
+    QListWidget* m_differing = nullptr;
     QLabel* m_note = nullptr;
+
+    StatusHints* m_hints = nullptr;
     QLabel* m_status = nullptr;
 };
 

@@ -83,9 +83,7 @@ void PurgeWindow::buildWidgets() {
 
     // Drive, folder and the folder's files.
     m_chooser = new DriveFolderChooser(this);
-    m_drives = m_chooser->driveBox();
-    m_folderTree = m_chooser->folderTree();
-    m_folderTree->setMinimumWidth(260);
+    m_chooser->folderTree()->setMinimumWidth(260);
     connect(m_chooser, &DriveFolderChooser::folderChosen, this, &PurgeWindow::showFolder);
     connect(m_chooser, &DriveFolderChooser::driveUnavailable, this, [this] {
         m_status->setText(tr("Laufwerk nicht verfügbar !"));
@@ -97,8 +95,8 @@ void PurgeWindow::buildWidgets() {
 
     auto* left = new QVBoxLayout;
     left->addWidget(boldLabel(tr("Verzeichnis wählen"), this));
-    left->addWidget(m_drives);
-    left->addWidget(m_folderTree, 3);
+    left->addWidget(m_chooser->driveBox());
+    left->addWidget(m_chooser->folderTree(), 3);
     left->addWidget(new QLabel(tr("files"), this));
     left->addWidget(m_fileList, 2);
 

@@ -6,7 +6,6 @@
 #include <memory>
 
 class QCheckBox;
-class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -16,7 +15,6 @@ class QProgressBar;
 class QPushButton;
 class QStringListModel;
 class QTimer;
-class QTreeView;
 
 namespace quenfor {
 
@@ -92,8 +90,6 @@ private:
     QTimer* m_sliceTimer;
     StatusHints* m_hints = nullptr;
     DriveFolderChooser* m_chooser = nullptr;
-    QComboBox* m_drives = nullptr;
-    QTreeView* m_folderTree = nullptr;
     QListView* m_fileList = nullptr;
     QListView* m_purgeList = nullptr;
     QListView* m_cleanList = nullptr;

@@ -81,11 +81,9 @@ PictureViewerWindow::~PictureViewerWindow() = default;
 
 void PictureViewerWindow::buildWidgets() {
     m_chooser = new DriveFolderChooser(this);
-    m_drives = m_chooser->driveBox();
-    m_folderTree = m_chooser->folderTree();
     // A long mount path must not widen the browser at the picture's cost; the list shows it whole.
-    m_drives->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_drives->setMinimumContentsLength(8);
+    m_chooser->driveBox()->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_chooser->driveBox()->setMinimumContentsLength(8);
     connect(m_chooser, &DriveFolderChooser::folderChosen, this, &PictureViewerWindow::showFolder);
     connect(m_chooser, &DriveFolderChooser::driveUnavailable, this,
             [this](const QString& root) { setStatus(driveNotAvailableText(root)); });
@@ -98,8 +96,8 @@ void PictureViewerWindow::buildWidgets() {
     auto* browser = new QWidget(this);
     auto* browserLayout = new QVBoxLayout(browser);
     browserLayout->setContentsMargins(0, 0, 0, 0);
-    browserLayout->addWidget(m_drives);
-    browserLayout->addWidget(m_folderTree, 3);
+    browserLayout->addWidget(m_chooser->driveBox());
+    browserLayout->addWidget(m_chooser->folderTree(), 3);
     browserLayout->addWidget(m_files, 2);
 
     m_image = new QLabel;
@@ -171,7 +169,7 @@ void PictureViewerWindow::restoreSettings() {
 }
 
 void PictureViewerWindow::closeEvent(QCloseEvent* event) {
-    storePictureViewerSettings({m_schemeWord, m_folder, storedDriveOf(m_drives->currentText())});
+    storePictureViewerSettings({m_schemeWord, m_folder, storedDriveOf(m_chooser->driveBox()->currentText())});
     QWidget::closeEvent(event);
 }
 

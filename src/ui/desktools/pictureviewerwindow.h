@@ -8,14 +8,12 @@
 
 #include <functional>
 
-class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
 class QListWidget;
 class QScrollArea;
 class QSplitter;
-class QTreeView;
 class QUrl;
 
 namespace quenfor {
@@ -99,8 +97,6 @@ private:
     QPixmap m_picture;
 
     DriveFolderChooser* m_chooser = nullptr;
-    QComboBox* m_drives = nullptr;
-    QTreeView* m_folderTree = nullptr;
     QListWidget* m_files = nullptr;
     QSplitter* m_splitter = nullptr;
     QScrollArea* m_pictureArea = nullptr;

@@ -65,23 +65,28 @@ private:
     void showPreview(const QPixmap& picture);
     void finishShot();
 
-    ShotCounter m_counter;
-    QString m_lastFile;
-    QPixmap m_preview;
-    bool m_shooting = false;
-
     StatusHints* m_hints = nullptr;
+    QLabel* m_status = nullptr;
+
+    // The part of the screen taken.
     QLineEdit* m_x = nullptr;
     QLineEdit* m_y = nullptr;
     QLineEdit* m_width = nullptr;
     QLineEdit* m_height = nullptr;
+    bool m_shooting = false;
+
+    // Where the pictures go and what they are called.
+    ShotCounter m_counter;
+    QString m_lastFile;
     QLineEdit* m_baseName = nullptr;
     QLineEdit* m_count = nullptr;
     QLabel* m_folderLabel = nullptr;
     QGroupBox* m_folderFrame = nullptr;
     DriveFolderChooser* m_chooser = nullptr;
+
+    // The last picture.
+    QPixmap m_preview;
     QLabel* m_image = nullptr;
-    QLabel* m_status = nullptr;
     QTimer* m_showAgain = nullptr;
 };
 

@@ -73,14 +73,12 @@ void SearchProWindow::buildWidgets() {
 
     // Drive and folder: the folder list shows only folders, hidden ones left out like the walk does.
     m_chooser = new DriveFolderChooser(this);
-    m_drives = m_chooser->driveBox();
-    m_folderTree = m_chooser->folderTree();
-    m_folderTree->setMinimumSize(280, 12 * fontMetrics().lineSpacing());
+    m_chooser->folderTree()->setMinimumSize(280, 12 * fontMetrics().lineSpacing());
     connect(m_chooser, &DriveFolderChooser::folderChosen, this, &SearchProWindow::showFolder);
     connect(m_chooser, &DriveFolderChooser::driveUnavailable, this, [this](const QString& root) {
         Dialogs::information(this, tr("Das Laufwerk \"%1\" ist nicht bereit.").arg(root));
     });
-    m_hints->add(m_folderTree, SearchProHints::folderList());
+    m_hints->add(m_chooser->folderTree(), SearchProHints::folderList());
 
     auto* startCaption = new QLabel(tr("Start-Verzeichnis :"), this);
     startCaption->setObjectName(u"Label2"_s);
@@ -95,14 +93,14 @@ void SearchProWindow::buildWidgets() {
 
     auto* driveRow = new QHBoxLayout;
     driveRow->addWidget(new QLabel(tr("Laufwerk:"), this));
-    driveRow->addWidget(m_drives, 1);
+    driveRow->addWidget(m_chooser->driveBox(), 1);
     auto* startRow = new QHBoxLayout;
     startRow->addWidget(startCaption);
     startRow->addWidget(m_startFolder, 1);
 
     auto* left = new QVBoxLayout;
     left->addLayout(driveRow);
-    left->addWidget(m_folderTree, 1);
+    left->addWidget(m_chooser->folderTree(), 1);
     left->addLayout(startRow);
     left->addWidget(m_generate);
 

@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class QComboBox;
 class QLabel;
 class QListView;
 class QPlainTextEdit;
@@ -15,7 +14,6 @@ class QProgressBar;
 class QPushButton;
 class QStringListModel;
 class QTimer;
-class QTreeView;
 
 namespace quenfor {
 
@@ -75,17 +73,16 @@ private:
     void showSaveInfo();
     void closeGenerator();
 
+    // The folder the walk starts from.
     const FolderLister& m_lister;
     QString m_folder;
-    std::shared_ptr<SearchProJob> m_job;
+    DriveFolderChooser* m_chooser = nullptr;
+    QLabel* m_startFolder = nullptr;
 
+    // The walk and the folders it found.
     QStringListModel* m_entries;
     QTimer* m_progressTimer;
-    StatusHints* m_hints = nullptr;
-    DriveFolderChooser* m_chooser = nullptr;
-    QComboBox* m_drives = nullptr;
-    QTreeView* m_folderTree = nullptr;
-    QLabel* m_startFolder = nullptr;
+    std::shared_ptr<SearchProJob> m_job;
     QPushButton* m_generate = nullptr;
     QListView* m_list = nullptr;
     QLabel* m_count = nullptr;
@@ -94,12 +91,16 @@ private:
     QProgressBar* m_progressBar = nullptr;
     QLabel* m_progressText = nullptr;
     QPushButton* m_cancel = nullptr;
+
+    // What becomes of them.
     QPushButton* m_transferAll = nullptr;
     QPushButton* m_transferSelection = nullptr;
     QPushButton* m_createFile = nullptr;
     QPushButton* m_saveInfo = nullptr;
     QPlainTextEdit* m_saveInfoText = nullptr;
     QPushButton* m_close = nullptr;
+
+    StatusHints* m_hints = nullptr;
     QLabel* m_status = nullptr;
 };
 
