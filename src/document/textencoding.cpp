@@ -71,11 +71,14 @@ qsizetype asciiPrefixLength(const char* data, qsizetype size) {
 
 // QString::fromUtf8 takes a leading EF BB BF for a byte order mark and drops it. Inside a file
 // (a line that starts with one, files joined with `cat`) it is a character like any other and
-// must survive, so it is decoded here by hand.
+// must survive, so the marks in front are decoded here by hand, however many there are.
 QString fromUtf8KeepingMark(const char* data, qsizetype size) {
-    if (size >= 3 && std::memcmp(data, kUtf8Mark, 3) == 0)
-        return QChar(char16_t(0xFEFF)) + QString::fromUtf8(data + 3, size - 3);
-    return QString::fromUtf8(data, size);
+    qsizetype marks = 0;
+    while (size - 3 * marks >= 3 && std::memcmp(data + 3 * marks, kUtf8Mark, 3) == 0)
+        ++marks;
+    if (marks == 0)
+        return QString::fromUtf8(data, size);
+    return QString(marks, QChar(char16_t(0xFEFF))) + QString::fromUtf8(data + 3 * marks, size - 3 * marks);
 }
 
 class Utf8Codec final : public LineCodec {
