@@ -2,6 +2,7 @@
 
 #include "common/memorybudget.h"
 #include "common/regularfile.h"
+#include "document/linepieces.h"
 #include "document/linesplit.h"
 
 #include <QDir>
@@ -91,7 +92,7 @@ private:
 // ends the line at once; an LF at the start of the next piece then belongs to that CR.
 class LineAssembler {
 public:
-    LineAssembler(const LineCodec& codec, QStringList& lines) : m_codec(codec), m_lines(lines) {}
+    LineAssembler(const LineCodec& codec, QStringList& lines) : m_pending(codec), m_lines(lines) {}
 
     void feed(const char* data, qsizetype size) {
         qsizetype i = 0;
@@ -121,26 +122,15 @@ public:
     }
 
     void finish() {
-        if (!m_pending.isEmpty()) {
-            m_lines.append(m_codec.decode(m_pending.constData(), m_pending.size()));
-            m_pending.clear();
-        }
+        if (!m_pending.isEmpty())
+            m_lines.append(m_pending.take(nullptr, 0));
     }
 
 private:
-    void emitLine(const char* data, qsizetype size) {
-        if (m_pending.isEmpty()) {
-            m_lines.append(m_codec.decode(data, size));
-            return;
-        }
-        m_pending.append(data, size);
-        m_lines.append(m_codec.decode(m_pending.constData(), m_pending.size()));
-        m_pending.clear();
-    }
+    void emitLine(const char* data, qsizetype size) { m_lines.append(m_pending.take(data, size)); }
 
-    const LineCodec& m_codec;
+    LinePieceDecoder m_pending; // the line that runs on into the next piece
     QStringList& m_lines;
-    QByteArray m_pending;
     bool m_lfMayFollow = false;
 };
 
@@ -197,13 +187,22 @@ QString saveErrorText(const QString& path, const QString& reason) {
         nativePath(path), reason);
 }
 
-// Encodes the lines piece by piece, so a large document never exists twice in memory.
+// Encodes the lines piece by piece, so a large document never exists twice in memory, nor a
+// long line once as text and once as bytes.
 template <typename Write>
 bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& unrepresentable, Write&& write) {
     QByteArray buffer;
     buffer.reserve(kChunkSize + 4096);
+    auto writeIfFull = [&](QByteArray& bytes) {
+        if (bytes.size() < kChunkSize)
+            return true;
+        const bool written = write(bytes);
+        bytes.resize(0);
+        return written;
+    };
     for (const QString& line : lines) {
-        codec.encodeAppend(line, buffer, unrepresentable);
+        if (!encodeInSlices(codec, line, buffer, unrepresentable, kLineEncodeSlice, writeIfFull))
+            return false;
         buffer.append("\r\n", 2);
         if (buffer.size() >= kChunkSize) {
             if (!write(buffer))

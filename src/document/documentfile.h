@@ -29,7 +29,8 @@ struct ReadResult {
 };
 
 // Reads a file into lines by the reader's line rule, decoded as the encoding rule decides.
-// Reads in pieces, so a file costs little more memory than its lines.
+// Reads in pieces and decodes a long line in pieces, so a file costs little more memory than
+// its lines.
 ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice);
 ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice);
 
@@ -49,9 +50,10 @@ struct WriteResult {
     QString warning(const TextEncoding& encoding) const;
 };
 
-// Writes every line encoded and followed by CR LF. The file is replaced atomically: a save that
-// fails at any point leaves the previous file byte for byte as it was, and its owner, permissions,
-// attributes and hard links stay. With `readAs`, a file that changed on disk since then is refused.
+// Writes every line encoded and followed by CR LF, a long line in slices. The file is replaced
+// atomically: a save that fails at any point leaves the previous file byte for byte as it was, and
+// its owner, permissions, attributes and hard links stay. With `readAs`, a file that changed on
+// disk since then is refused.
 WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding,
                               const std::optional<FileStamp>& readAs = std::nullopt);
 

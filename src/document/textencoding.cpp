@@ -104,6 +104,22 @@ public:
         encodeWithEscapes(line, out, unrepresentable);
     }
 
+    // Before the last lead byte among the last three, whose sequence may go on in the next
+    // bytes; anywhere else nothing before the cut looks past it. A lead or ASCII byte is never
+    // part of an earlier sequence, so the decoding starts afresh there either way.
+    qsizetype decodeCut(const char* data, qsizetype size) const override {
+        for (qsizetype at = size - 1; at >= 0 && at >= size - 3; --at) {
+            const auto b = static_cast<unsigned char>(data[at]);
+            if (b < 0x80)
+                return size;
+            if (b >= 0xC0)
+                return at;
+        }
+        return size;
+    }
+
+    bool encodesInSlices() const override { return true; }
+
 private:
     static QString decodeWithEscapes(const unsigned char* p, qsizetype size) {
         QString result;
@@ -183,6 +199,9 @@ public:
         }
     }
 
+    qsizetype decodeCut(const char*, qsizetype size) const override { return size; }
+    bool encodesInSlices() const override { return true; }
+
 private:
     void encodeRest(QStringView line, qsizetype i, QByteArray& out, qsizetype start, qsizetype& unrepresentable) const {
         char* dst = out.data() + start;
@@ -224,6 +243,10 @@ public:
         if (encoder.hasError())
             ++unrepresentable;
     }
+
+    // A trail byte may look like ASCII, and the count is per line: such lines stay whole.
+    qsizetype decodeCut(const char*, qsizetype) const override { return 0; }
+    bool encodesInSlices() const override { return false; }
 
 private:
     QByteArray m_name;
