@@ -28,11 +28,17 @@ struct ReadResult {
     std::optional<FileStamp> stamp;
 };
 
+// How a lone LF is read: as part of the line (the reader's rule), or as a line end like a CR.
+// Then a file whose lines end in LF alone gets its lines back, and a CR LF file an empty line
+// after each line: the result of "fragmentierten Unix Text reparieren" on the whole file.
+enum class LineFeeds { InLine, EndLine };
+
 // Reads a file into lines by the reader's line rule, decoded as the encoding rule decides.
 // Reads in pieces and decodes a long line in pieces, so a file costs little more memory than
 // its lines.
-ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice);
-ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice);
+ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice, LineFeeds lineFeeds = LineFeeds::InLine);
+ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice,
+                             LineFeeds lineFeeds = LineFeeds::InLine);
 
 // The encoding the reading rule picks for these bytes.
 TextEncoding encodingOf(QByteArrayView bytes, const EncodingChoice& choice);
