@@ -94,6 +94,23 @@ private slots:
             QVERIFY(doc.marked() >= -1 && doc.marked() < doc.count());
         }
     }
+
+    // A line too long to lay out shows its beginning, without half a character at the cut;
+    // editing still gets all of it.
+    void showsTheBeginningOfAnOverlongLine() {
+        const QString pair = u"😀"_s;
+        const QString cutInPair = QString(kListShownLength - 1, u'x') + pair + u"rest"_s;
+        const QString cutAfterPair = QString(kListShownLength - 2, u'x') + pair + u"rest"_s;
+        const QString fits = QString(kListShownLength - 2, u'x') + pair;
+        ConfigDocument doc;
+        doc.replaceAll({cutInPair, cutAfterPair, fits});
+        DocumentListModel model(&doc);
+        const QStringList shown = modelRows(model);
+        QCOMPARE(shown,
+                 QStringList({cutInPair.first(kListShownLength - 1), cutAfterPair.first(kListShownLength), fits}));
+        for (int row = 0; row < doc.count(); ++row)
+            QCOMPARE(model.data(model.index(row, 0), Qt::EditRole).toString(), doc.line(row));
+    }
 };
 
 QTEST_GUILESS_MAIN(DocumentListModelTest)
