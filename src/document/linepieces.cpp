@@ -15,9 +15,7 @@ void LinePieceDecoder::append(const char* data, qsizetype size) {
     m_bytes.remove(0, cut);
 }
 
-QString LinePieceDecoder::take(const char* data, qsizetype size) {
-    if (isEmpty())
-        return m_codec.decode(data, size); // nearly every line: no copy of its bytes
+QString LinePieceDecoder::takeHeld(const char* data, qsizetype size) {
     m_bytes.append(data, size);
     QString rest = m_codec.decode(m_bytes.constData(), m_bytes.size());
     m_bytes = QByteArray();

@@ -26,9 +26,15 @@ public:
     bool isEmpty() const { return m_bytes.isEmpty() && m_text.isEmpty(); }
     void append(const char* data, qsizetype size);
     // The whole line with its last bytes; the decoder is empty again afterwards.
-    QString take(const char* data, qsizetype size);
+    QString take(const char* data, qsizetype size) {
+        if (isEmpty())
+            return m_codec.decode(data, size); // nearly every line: no copy of its bytes
+        return takeHeld(data, size);
+    }
 
 private:
+    QString takeHeld(const char* data, qsizetype size);
+
     const LineCodec& m_codec;
     qsizetype m_holdLimit;
     QByteArray m_bytes;
