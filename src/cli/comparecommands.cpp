@@ -57,6 +57,13 @@ public:
     explicit ChunkedPrinter(const CliStreams& io) : m_io(io) {}
     ~ChunkedPrinter() { m_io.print(m_text); }
     QString& text() { return m_text; }
+    // Prints the text between the slices of a long value.
+    TextDrain drain() {
+        return {[this](QString& text) {
+            m_io.print(text);
+            text.truncate(0);
+        }};
+    }
     void flushIfLarge() {
         if (m_text.size() > 65536) {
             m_io.print(m_text);
@@ -88,11 +95,12 @@ int runEffectiveCommand(const CliArgs& args, const CliStreams& io) {
     }
     const EffectiveConfig config = effectiveConfig(sources, repeatableFor(args, io));
     ChunkedPrinter printer(io);
+    const TextDrain drain = printer.drain();
     for (const EffectiveSetting& s : config.settings) {
         if (format == Format::Tsv)
-            appendEffectiveTsv(printer.text(), s, args.positional);
+            appendEffectiveTsv(printer.text(), s, args.positional, drain);
         else
-            appendEffectiveText(printer.text(), s, args.positional);
+            appendEffectiveText(printer.text(), s, args.positional, drain);
         printer.flushIfLarge();
     }
     return kOk;
@@ -117,11 +125,12 @@ int runDiffCommand(const CliArgs& args, const CliStreams& io) {
     const std::vector<DiffEntry> diff = diffConfigs(a->lines, b->lines, repeatableFor(args, io));
     {
         ChunkedPrinter printer(io);
+        const TextDrain drain = printer.drain();
         for (const DiffEntry& d : diff) {
             if (format == Format::Tsv)
-                appendDiffTsv(printer.text(), d);
+                appendDiffTsv(printer.text(), d, drain);
             else
-                appendDiffText(printer.text(), d, fileA, fileB);
+                appendDiffText(printer.text(), d, fileA, fileB, drain);
             printer.flushIfLarge();
         }
         if (format == Format::Text)

@@ -1,7 +1,6 @@
 #include "cli/commands.h"
 #include "cli/commandtable.h"
 #include "cli/documentio.h"
-#include "common/wholefile.h"
 
 #include "document/cleanuptools.h"
 #include "document/documentfile.h"
@@ -29,19 +28,9 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
         io.message(QString::fromUtf16(kCategorySortRefusedMenu));
         return kFailed;
     }
-    // The repair needs the raw text as it stands in the file, line ends included.
-    QByteArray raw;
-    ReadResult read;
-    if (cmd == u"repair" && file == u"-") {
-        raw = io.in.readAll();
-        read = readDocumentBytes(raw, encodingChoiceFor(args));
-        if (!read.ok)
-            io.message(read.error);
-    } else {
-        read = readInput(file, args, io);
-        if (cmd == u"repair")
-            raw = readWholeFile(file);
-    }
+    // The repair reads every LF as a line end: the lines are then repaired as they are read, and
+    // a huge file is never held as bytes and as text at once.
+    ReadResult read = readInput(file, args, io, cmd == u"repair" ? LineFeeds::EndLine : LineFeeds::InLine);
     if (!read.ok)
         return kFailed;
     QStringList lines = std::move(read.lines);
@@ -63,14 +52,6 @@ int runDocumentCommand(const CliArgs& args, const CliStreams& io) {
         lines = lowerCaseLines(lines);
     } else if (cmd == u"categories") {
         lines = sortByCategory(lines, CategoryTable::builtIn());
-    } else if (cmd == u"repair") {
-        // Only the number of lines is needed from the reading; a huge file is held once as
-        // bytes and once as text, never more.
-        const qsizetype count = lines.size();
-        lines = QStringList();
-        QString text = decodeText(raw, encodingChoiceFor(args));
-        raw = QByteArray();
-        lines = repairFragmentedText(std::move(text), count);
     }
     const int status = writeOutput(file, args, io, lines, read.encoding, read.stamp);
     // Freeing a million strings one by one takes longer than the whole save; the process ends

@@ -10,9 +10,10 @@ EncodingChoice encodingChoiceFor(const CliArgs& args) {
     return {args.codepage.value_or(settingValue(Setting::Codepage)), args.codepage.has_value()};
 }
 
-ReadResult readInput(const QString& file, const CliArgs& args, const CliStreams& io) {
+ReadResult readInput(const QString& file, const CliArgs& args, const CliStreams& io, LineFeeds lineFeeds) {
     const EncodingChoice choice = encodingChoiceFor(args);
-    ReadResult read = file == u"-" ? readDocumentBytes(io.in.readAll(), choice) : readDocumentFile(file, choice);
+    ReadResult read = file == u"-" ? readDocumentBytes(io.in.readAll(), choice, lineFeeds)
+                                   : readDocumentFile(file, choice, lineFeeds);
     if (!read.ok)
         io.message(read.error);
     return read;

@@ -14,7 +14,8 @@ namespace quenfor::cli {
 EncodingChoice encodingChoiceFor(const CliArgs& args);
 
 // Reads FILE, or standard input for "-"; the error is already reported when `ok` is false.
-ReadResult readInput(const QString& file, const CliArgs& args, const CliStreams& io);
+ReadResult readInput(const QString& file, const CliArgs& args, const CliStreams& io,
+                     LineFeeds lineFeeds = LineFeeds::InLine);
 
 // Writes the lines like a save: back to `file` with -i, to -o's file, else to standard output.
 // Reports failures and the "?" warning; returns the exit status. With -i, `readAs` is the file as

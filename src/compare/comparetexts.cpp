@@ -1,5 +1,6 @@
 #include "compare/comparetexts.h"
 
+#include "common/textslice.h"
 #include "lint/linttexts.h"
 
 #include <QFileInfo>
@@ -14,7 +15,7 @@ namespace {
 
 constexpr qsizetype kWhole = std::numeric_limits<qsizetype>::max();
 
-void appendShown(QString& out, QStringView text) {
+void appendShownSlice(QString& out, QStringView text) {
     // Nearly every value is plain text: one append instead of one per character. The test runs
     // over the whole text without an early exit, which the compiler turns into vector code.
     bool control = false;
@@ -24,6 +25,18 @@ void appendShown(QString& out, QStringView text) {
         appendShownText(out, text, kWhole);
     else
         out += text;
+}
+
+void appendShown(QString& out, QStringView text, const TextDrain& drain = {}) {
+    if (drain.flush) {
+        while (text.size() > drain.slice) {
+            const qsizetype end = sliceEnd(text, drain.slice);
+            appendShownSlice(out, text.first(end));
+            drain.flush(out);
+            text = text.sliced(end);
+        }
+    }
+    appendShownSlice(out, text);
 }
 
 // A line number without a QString of its own: the output holds hundreds of thousands of them.
@@ -44,25 +57,25 @@ void appendPlace(QString& out, const QString& file, int line) {
     appendNumber(out, line);
 }
 
-void appendTitle(QString& out, const EffectiveSetting& s) {
+void appendTitle(QString& out, const EffectiveSetting& s, const TextDrain& drain = {}) {
     if (s.kind == EntryKind::Mapkey)
         out += u"mapkey "_s;
-    appendShown(out, s.name);
+    appendShown(out, s.name, drain);
 }
 
 // "bell yes  (config.pro:12)"
-void appendValueAt(QString& out, const SettingPlace& p, const QStringList& files) {
-    appendShown(out, p.value);
+void appendValueAt(QString& out, const SettingPlace& p, const QStringList& files, const TextDrain& drain) {
+    appendShown(out, p.value, drain);
     out += u"  ("_s;
     appendPlace(out, files.value(p.file), p.line);
     out += u')';
 }
 
 void appendTsvRow(QString& out, const EffectiveSetting& s, const SettingPlace& p, const QStringList& files,
-                  QStringView state) {
-    appendTitle(out, s);
+                  QStringView state, const TextDrain& drain) {
+    appendTitle(out, s, drain);
     out += u'\t';
-    appendShown(out, p.value);
+    appendShown(out, p.value, drain);
     out += u'\t';
     appendShown(out, files.value(p.file));
     out += u'\t';
@@ -92,41 +105,41 @@ QString settingTitle(EntryKind kind, const QString& name) {
     return kind == EntryKind::Mapkey ? u"mapkey "_s + name : name;
 }
 
-void appendEffectiveText(QString& out, const EffectiveSetting& s, const QStringList& files) {
-    appendTitle(out, s);
+void appendEffectiveText(QString& out, const EffectiveSetting& s, const QStringList& files, const TextDrain& drain) {
+    appendTitle(out, s, drain);
     if (s.collects) {
         out += u" (sammelt alle Werte)\n"_s;
         for (const SettingPlace& p : s.inEffect) {
             out += u"    "_s;
-            appendValueAt(out, p, files);
+            appendValueAt(out, p, files, drain);
             out += u'\n';
         }
     } else {
         out += u' ';
-        appendValueAt(out, s.inEffect.front(), files);
+        appendValueAt(out, s.inEffect.front(), files, drain);
         if (s.locked)
             out += u" gesperrt"_s;
         out += u'\n';
         for (const SettingPlace& p : s.overridden) {
             out += u"    überschreibt: "_s;
-            appendValueAt(out, p, files);
+            appendValueAt(out, p, files, drain);
             out += u'\n';
         }
     }
     for (const SettingPlace& p : s.refused) {
         out += u"    gesperrt durch config.sup: "_s;
-        appendValueAt(out, p, files);
+        appendValueAt(out, p, files, drain);
         out += u'\n';
     }
 }
 
-void appendEffectiveTsv(QString& out, const EffectiveSetting& s, const QStringList& files) {
+void appendEffectiveTsv(QString& out, const EffectiveSetting& s, const QStringList& files, const TextDrain& drain) {
     for (const SettingPlace& p : s.overridden)
-        appendTsvRow(out, s, p, files, u"overridden");
+        appendTsvRow(out, s, p, files, u"overridden", drain);
     for (const SettingPlace& p : s.inEffect)
-        appendTsvRow(out, s, p, files, s.locked ? u"locked" : u"effective");
+        appendTsvRow(out, s, p, files, s.locked ? u"locked" : u"effective", drain);
     for (const SettingPlace& p : s.refused)
-        appendTsvRow(out, s, p, files, u"refused");
+        appendTsvRow(out, s, p, files, u"refused", drain);
 }
 
 QString changeText(DiffChange change) {
@@ -141,17 +154,18 @@ QString changeText(DiffChange change) {
     return u"geändert"_s;
 }
 
-void appendDiffText(QString& out, const DiffEntry& d, const QString& fileA, const QString& fileB) {
+void appendDiffText(QString& out, const DiffEntry& d, const QString& fileA, const QString& fileB,
+                    const TextDrain& drain) {
     out += d.change == DiffChange::Added ? u'+' : d.change == DiffChange::Removed ? u'-' : u'~';
     out += u' ';
-    appendShown(out, settingTitle(d.kind, d.name));
+    appendShown(out, settingTitle(d.kind, d.name), drain);
     out += u": "_s;
     if (d.change != DiffChange::Added)
-        appendShown(out, d.oldValue);
+        appendShown(out, d.oldValue, drain);
     if (d.change == DiffChange::Changed)
         out += u" → "_s;
     if (d.change != DiffChange::Removed)
-        appendShown(out, d.newValue);
+        appendShown(out, d.newValue, drain);
     out += u"  ("_s;
     if (d.lineA > 0)
         appendPlace(out, fileA, d.lineA);
@@ -162,14 +176,14 @@ void appendDiffText(QString& out, const DiffEntry& d, const QString& fileA, cons
     out += u")\n"_s;
 }
 
-void appendDiffTsv(QString& out, const DiffEntry& d) {
+void appendDiffTsv(QString& out, const DiffEntry& d, const TextDrain& drain) {
     out += d.change == DiffChange::Added ? u"added"_s : d.change == DiffChange::Removed ? u"removed"_s : u"changed"_s;
     out += d.kind == EntryKind::Mapkey ? u"\tmapkey\t"_s : u"\toption\t"_s;
-    appendShown(out, d.name);
+    appendShown(out, d.name, drain);
     out += u'\t';
-    appendShown(out, d.oldValue);
+    appendShown(out, d.oldValue, drain);
     out += u'\t';
-    appendShown(out, d.newValue);
+    appendShown(out, d.newValue, drain);
     out += u'\t';
     if (d.lineA > 0)
         appendNumber(out, d.lineA);

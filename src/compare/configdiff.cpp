@@ -35,16 +35,22 @@ FileSettings settingsOf(const std::vector<ConfigEntry>& entries, const NameSet& 
     return out;
 }
 
-DiffEntry added(const FileSetting& s, const ConfigEntry& b) {
-    return {DiffChange::Added, s.kind, s.name.toString(), {}, b.value.toString(), 0, b.line};
+// The text an entry's value points into: its line, or the macro joined from several lines.
+QString holderOf(const ConfigEntry& e, const QStringList& lines) {
+    return e.macro.isNull() ? lines.at(e.line - 1) : e.macro;
 }
 
-DiffEntry removed(const FileSetting& s, const ConfigEntry& a) {
-    return {DiffChange::Removed, s.kind, s.name.toString(), a.value.toString(), {}, a.line, 0};
+DiffEntry added(const FileSetting& s, const ConfigEntry& b, const QStringList& linesB) {
+    return {DiffChange::Added, s.kind, s.name.toString(), {}, b.value, 0, b.line, {}, holderOf(b, linesB)};
+}
+
+DiffEntry removed(const FileSetting& s, const ConfigEntry& a, const QStringList& linesA) {
+    return {DiffChange::Removed, s.kind, s.name.toString(), a.value, {}, a.line, 0, holderOf(a, linesA), {}};
 }
 
 // Repeatable options: a value counts as many times as it stands; the surplus on either side differs.
-void diffCollected(const FileSetting& a, const FileSetting& b, std::vector<DiffEntry>& out) {
+void diffCollected(const FileSetting& a, const FileSetting& b, const QStringList& linesA, const QStringList& linesB,
+                   std::vector<DiffEntry>& out) {
     QHash<QString, std::vector<const ConfigEntry*>> inA;
     for (const ConfigEntry* e : a.values)
         inA[comparableValue(e->value)].push_back(e);
@@ -63,9 +69,9 @@ void diffCollected(const FileSetting& a, const FileSetting& b, std::vector<DiffE
             onlyA.push_back(e);
     }
     for (const ConfigEntry* e : onlyA)
-        out.push_back(removed(b, *e));
+        out.push_back(removed(b, *e, linesA));
     for (const ConfigEntry* e : onlyB)
-        out.push_back(added(b, *e));
+        out.push_back(added(b, *e, linesB));
 }
 
 } // namespace
@@ -92,18 +98,18 @@ std::vector<DiffEntry> diffConfigs(const QStringList& linesA, const QStringList&
         const auto inB = b.constFind(key);
         if (inB == b.cend()) {
             for (const ConfigEntry* e : inA->values)
-                out.push_back(removed(*inA, *e));
+                out.push_back(removed(*inA, *e, linesA));
         } else if (inA == a.cend()) {
             for (const ConfigEntry* e : inB->values)
-                out.push_back(added(*inB, *e));
+                out.push_back(added(*inB, *e, linesB));
         } else if (inA->kind == EntryKind::Option && repeatableNames.contains(key)) {
-            diffCollected(*inA, *inB, out);
+            diffCollected(*inA, *inB, linesA, linesB, out);
         } else {
             const ConfigEntry& oldE = *inA->values.front();
             const ConfigEntry& newE = *inB->values.front();
             if (!sameSettingValue(inB->kind, oldE.value, newE.value))
-                out.push_back({DiffChange::Changed, inB->kind, inB->name.toString(), oldE.value.toString(),
-                               newE.value.toString(), oldE.line, newE.line});
+                out.push_back({DiffChange::Changed, inB->kind, inB->name.toString(), oldE.value, newE.value, oldE.line,
+                               newE.line, holderOf(oldE, linesA), holderOf(newE, linesB)});
         }
     }
     return out;

@@ -16,11 +16,15 @@ enum class DiffChange { Added, Removed, Changed };
 struct DiffEntry {
     DiffChange change = DiffChange::Changed;
     EntryKind kind = EntryKind::Option;
-    QString name;     // option name as written (in B when it is there), or a mapkey's key sequence
-    QString oldValue; // in A; empty when added
-    QString newValue; // in B; empty when removed
-    int lineA = 0;    // 0 when not in A
-    int lineB = 0;    // 0 when not in B
+    QString name;         // option name as written (in B when it is there), or a mapkey's key sequence
+    QStringView oldValue; // in A; empty when added
+    QStringView newValue; // in B; empty when removed
+    int lineA = 0;        // 0 when not in A
+    int lineB = 0;        // 0 when not in B
+    // The texts the values point into, the line or a mapkey's joined macro: shared, not copied,
+    // so a value of hundreds of megabytes is not held twice. Copies of the entry stay valid.
+    QString heldA;
+    QString heldB;
 };
 
 // Compares what two files set, not how they are written: the order of the lines, the case of

@@ -54,6 +54,8 @@ public:
             // A continuation with no mapkey open sets nothing; the checks report it.
             if (m_openMapkey) {
                 ConfigEntry& mapkey = m_out.back();
+                if (mapkey.macro.isNull())
+                    mapkey.macro = mapkey.value.toString();
                 mapkey.macro += macroPiece(text.sliced(kContinued.size()));
                 mapkey.value = mapkey.macro;
             }
@@ -75,8 +77,8 @@ public:
             entry.name = keys;
             entry.ownKey = u"mapkey "_s.append(keys);
             entry.key = entry.ownKey;
-            entry.macro = macroPiece(skipBlanks(value.sliced(keys.size()))).toString();
-            entry.value = entry.macro; // the macro's buffer stays where it is when the entry moves
+            // A macro of one line stays in the line: a line of hundreds of megabytes is not copied.
+            entry.value = macroPiece(skipBlanks(value.sliced(keys.size())));
             m_openMapkey = true;
         } else {
             entry.name = name;

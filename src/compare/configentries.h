@@ -19,8 +19,8 @@ struct ConfigEntry {
     // into `ownKey` where it differs from what is written.
     QStringView key;
     QStringView name;  // as written: the option name, or the mapkey's key sequence
-    QStringView value; // the rest of the line without the blanks around it; a mapkey's `macro`
-    QString macro;     // a mapkey's whole macro, its continuation lines joined
+    QStringView value; // the rest of the line without the blanks around it; a mapkey's macro
+    QString macro;     // a mapkey's macro joined from continuation lines; null while it is one line
     QString ownKey;    // the key of a mapkey, or of a name written with capitals
     int line = 0;      // document line the entry starts on, from 1
 };

@@ -35,7 +35,7 @@ public:
 
     void add(ConfigEntry&& entry, int file, bool locking) {
         SettingPlace place{file, entry.line, entry.value};
-        if (entry.kind == EntryKind::Mapkey) {
+        if (!entry.macro.isNull()) {
             m_texts.push_back(std::move(entry.macro));
             place.value = m_texts.back(); // a moved QString keeps its buffer
         }

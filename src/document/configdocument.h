@@ -25,6 +25,13 @@ public:
     const QStringList& lines() const { return m_lines; }
 
     void setLine(int index, const QString& text);
+    // Changes line `index` in place through edit(QString&), announced as setLine announces it,
+    // so a line of hundreds of megabytes that nothing else holds is not copied.
+    template <typename Edit> void editLine(int index, Edit&& edit) {
+        emit aboutToChange();
+        edit(m_lines[index]);
+        emit linesChanged(index, index);
+    }
     void insertLine(int index, const QString& text);
     void appendLine(const QString& text);
     void appendLines(const QStringList& lines);

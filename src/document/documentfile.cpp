@@ -2,6 +2,7 @@
 
 #include "common/memorybudget.h"
 #include "common/regularfile.h"
+#include "document/linepieces.h"
 #include "document/linesplit.h"
 
 #include <QDir>
@@ -91,7 +92,7 @@ private:
 // ends the line at once; an LF at the start of the next piece then belongs to that CR.
 class LineAssembler {
 public:
-    LineAssembler(const LineCodec& codec, QStringList& lines) : m_codec(codec), m_lines(lines) {}
+    LineAssembler(const LineCodec& codec, QStringList& lines) : m_pending(codec), m_lines(lines) {}
 
     void feed(const char* data, qsizetype size) {
         qsizetype i = 0;
@@ -121,26 +122,15 @@ public:
     }
 
     void finish() {
-        if (!m_pending.isEmpty()) {
-            m_lines.append(m_codec.decode(m_pending.constData(), m_pending.size()));
-            m_pending.clear();
-        }
+        if (!m_pending.isEmpty())
+            m_lines.append(m_pending.take(nullptr, 0));
     }
 
 private:
-    void emitLine(const char* data, qsizetype size) {
-        if (m_pending.isEmpty()) {
-            m_lines.append(m_codec.decode(data, size));
-            return;
-        }
-        m_pending.append(data, size);
-        m_lines.append(m_codec.decode(m_pending.constData(), m_pending.size()));
-        m_pending.clear();
-    }
+    void emitLine(const char* data, qsizetype size) { m_lines.append(m_pending.take(data, size)); }
 
-    const LineCodec& m_codec;
+    LinePieceDecoder m_pending; // the line that runs on into the next piece
     QStringList& m_lines;
-    QByteArray m_pending;
     bool m_lfMayFollow = false;
 };
 
@@ -162,7 +152,8 @@ QString readErrorText(const QString& path, const QFile& file, int err) {
     return u"Die Datei %1 kann nicht gelesen werden: %2"_s.arg(name, reason);
 }
 
-ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip, qsizetype expectedLines) {
+ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 skip, qsizetype expectedLines,
+                      LineFeeds lineFeeds) {
     ReadResult result;
     result.lines.reserve(expectedLines); // no growing copies of a list of a million lines
     QString error;
@@ -185,6 +176,9 @@ ReadResult readStream(QIODevice& device, const TextEncoding& encoding, qint64 sk
         }
         if (n == 0)
             break;
+        // With no LF left, CR LF is two line ends, as the repair wants it.
+        if (lineFeeds == LineFeeds::EndLine)
+            std::replace(chunk.data(), chunk.data() + n, '\n', '\r');
         assembler.feed(chunk.constData(), n);
     }
     assembler.finish();
@@ -197,13 +191,22 @@ QString saveErrorText(const QString& path, const QString& reason) {
         nativePath(path), reason);
 }
 
-// Encodes the lines piece by piece, so a large document never exists twice in memory.
+// Encodes the lines piece by piece, so a large document never exists twice in memory, nor a
+// long line once as text and once as bytes.
 template <typename Write>
 bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& unrepresentable, Write&& write) {
     QByteArray buffer;
     buffer.reserve(kChunkSize + 4096);
+    auto writeIfFull = [&](QByteArray& bytes) {
+        if (bytes.size() < kChunkSize)
+            return true;
+        const bool written = write(bytes);
+        bytes.resize(0);
+        return written;
+    };
     for (const QString& line : lines) {
-        codec.encodeAppend(line, buffer, unrepresentable);
+        if (!encodeInSlices(codec, line, buffer, unrepresentable, kLineEncodeSlice, writeIfFull))
+            return false;
         buffer.append("\r\n", 2);
         if (buffer.size() >= kChunkSize) {
             if (!write(buffer))
@@ -216,7 +219,7 @@ bool encodeLines(const QStringList& lines, const LineCodec& codec, qsizetype& un
 
 } // namespace
 
-ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
+ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice, LineFeeds lineFeeds) {
     QFile file;
     const FileOpen opened = openRegularFile(file, path);
     if (opened != FileOpen::Opened) {
@@ -245,7 +248,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
     bool mark = false;
     bool first = true;
     qsizetype lineEnds = 0;
-    bool lineFeeds = false;
+    bool lineFeedSeen = false;
     for (;;) {
         const qint64 n = file.read(chunk.data(), kChunkSize);
         if (n < 0) {
@@ -261,7 +264,7 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         check.feed(chunk.constData(), n);
         lineEnds += std::count(chunk.constData(), chunk.constData() + n, '\r');
         // Only while no CR has turned up: a file with CRs is no Unix file, and the search stops.
-        lineFeeds = lineFeeds || (lineEnds == 0 && std::memchr(chunk.constData(), '\n', size_t(n)));
+        lineFeedSeen = lineFeedSeen || (lineEnds == 0 && std::memchr(chunk.constData(), '\n', size_t(n)));
     }
     const bool valid = check.finish();
     const TextEncoding encoding = chooseEncoding(mark, valid, check.nonAscii(), choice);
@@ -273,13 +276,13 @@ ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice) {
         return result;
     }
     const bool skipMark = mark && encoding.kind == TextEncoding::Kind::Utf8;
-    ReadResult result = readStream(file, encoding, skipMark ? kMarkSize : 0, lineEnds + 1);
-    result.lineFeedsOnly = result.ok && lineEnds == 0 && lineFeeds;
+    ReadResult result = readStream(file, encoding, skipMark ? kMarkSize : 0, lineEnds + 1, lineFeeds);
+    result.lineFeedsOnly = result.ok && lineFeeds == LineFeeds::InLine && lineEnds == 0 && lineFeedSeen;
     result.stamp = stamp;
     return result;
 }
 
-ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice) {
+ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice, LineFeeds lineFeeds) {
     const bool mark = startsWithMark(bytes);
     const bool valid = isValidUtf8(bytes.data(), bytes.size());
     const TextEncoding encoding = chooseEncoding(mark, valid, hasNonAscii(bytes.data(), bytes.size()), choice);
@@ -294,10 +297,15 @@ ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice)
         return result;
     }
     result.encoding = encoding;
-    forEachLine(body.data(), body.size(), [&](qsizetype start, qsizetype length) {
+    const auto sink = [&](qsizetype start, qsizetype length) {
         result.lines.append(codec->decode(body.data() + start, length));
-    });
-    result.lineFeedsOnly = result.lines.size() == 1 && !body.contains('\r') && body.contains('\n');
+    };
+    if (lineFeeds == LineFeeds::EndLine) {
+        forEachLineOrFeed(body.data(), body.size(), sink);
+    } else {
+        forEachLine(body.data(), body.size(), sink);
+        result.lineFeedsOnly = result.lines.size() == 1 && !body.contains('\r') && body.contains('\n');
+    }
     result.ok = true;
     return result;
 }

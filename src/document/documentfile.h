@@ -28,10 +28,17 @@ struct ReadResult {
     std::optional<FileStamp> stamp;
 };
 
+// How a lone LF is read: as part of the line (the reader's rule), or as a line end like a CR.
+// Then a file whose lines end in LF alone gets its lines back, and a CR LF file an empty line
+// after each line: the result of "fragmentierten Unix Text reparieren" on the whole file.
+enum class LineFeeds { InLine, EndLine };
+
 // Reads a file into lines by the reader's line rule, decoded as the encoding rule decides.
-// Reads in pieces, so a file costs little more memory than its lines.
-ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice);
-ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice);
+// Reads in pieces and decodes a long line in pieces, so a file costs little more memory than
+// its lines.
+ReadResult readDocumentFile(const QString& path, const EncodingChoice& choice, LineFeeds lineFeeds = LineFeeds::InLine);
+ReadResult readDocumentBytes(QByteArrayView bytes, const EncodingChoice& choice,
+                             LineFeeds lineFeeds = LineFeeds::InLine);
 
 // The encoding the reading rule picks for these bytes.
 TextEncoding encodingOf(QByteArrayView bytes, const EncodingChoice& choice);
@@ -49,9 +56,10 @@ struct WriteResult {
     QString warning(const TextEncoding& encoding) const;
 };
 
-// Writes every line encoded and followed by CR LF. The file is replaced atomically: a save that
-// fails at any point leaves the previous file byte for byte as it was, and its owner, permissions,
-// attributes and hard links stay. With `readAs`, a file that changed on disk since then is refused.
+// Writes every line encoded and followed by CR LF, a long line in slices. The file is replaced
+// atomically: a save that fails at any point leaves the previous file byte for byte as it was, and
+// its owner, permissions, attributes and hard links stay. With `readAs`, a file that changed on
+// disk since then is refused.
 WriteResult writeDocumentFile(const QString& path, const QStringList& lines, const TextEncoding& encoding,
                               const std::optional<FileStamp>& readAs = std::nullopt);
 

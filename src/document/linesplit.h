@@ -24,6 +24,19 @@ template <typename Char, typename Sink> void forEachLine(const Char* data, qsize
         sink(start, size - start);
 }
 
+// The repair's rule: every CR and every LF ends a line, so CR LF ends one and adds an empty one.
+template <typename Char, typename Sink> void forEachLineOrFeed(const Char* data, qsizetype size, Sink&& sink) {
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < size; ++i) {
+        if (data[i] != Char('\r') && data[i] != Char('\n'))
+            continue;
+        sink(start, i - start);
+        start = i + 1;
+    }
+    if (start < size)
+        sink(start, size - start);
+}
+
 QStringList splitLines(QStringView text);
 
 // Offset just behind the end of line `count` (1-based) of the text, its CR or CR LF included;

@@ -71,11 +71,14 @@ qsizetype asciiPrefixLength(const char* data, qsizetype size) {
 
 // QString::fromUtf8 takes a leading EF BB BF for a byte order mark and drops it. Inside a file
 // (a line that starts with one, files joined with `cat`) it is a character like any other and
-// must survive, so it is decoded here by hand.
+// must survive, so the marks in front are decoded here by hand, however many there are.
 QString fromUtf8KeepingMark(const char* data, qsizetype size) {
-    if (size >= 3 && std::memcmp(data, kUtf8Mark, 3) == 0)
-        return QChar(char16_t(0xFEFF)) + QString::fromUtf8(data + 3, size - 3);
-    return QString::fromUtf8(data, size);
+    qsizetype marks = 0;
+    while (size - 3 * marks >= 3 && std::memcmp(data + 3 * marks, kUtf8Mark, 3) == 0)
+        ++marks;
+    if (marks == 0)
+        return QString::fromUtf8(data, size);
+    return QString(marks, QChar(char16_t(0xFEFF))) + QString::fromUtf8(data + 3 * marks, size - 3 * marks);
 }
 
 class Utf8Codec final : public LineCodec {
@@ -100,6 +103,22 @@ public:
         }
         encodeWithEscapes(line, out, unrepresentable);
     }
+
+    // Before the last lead byte among the last three, whose sequence may go on in the next
+    // bytes; anywhere else nothing before the cut looks past it. A lead or ASCII byte is never
+    // part of an earlier sequence, so the decoding starts afresh there either way.
+    qsizetype decodeCut(const char* data, qsizetype size) const override {
+        for (qsizetype at = size - 1; at >= 0 && at >= size - 3; --at) {
+            const auto b = static_cast<unsigned char>(data[at]);
+            if (b < 0x80)
+                return size;
+            if (b >= 0xC0)
+                return at;
+        }
+        return size;
+    }
+
+    bool encodesInSlices() const override { return true; }
 
 private:
     static QString decodeWithEscapes(const unsigned char* p, qsizetype size) {
@@ -180,6 +199,9 @@ public:
         }
     }
 
+    qsizetype decodeCut(const char*, qsizetype size) const override { return size; }
+    bool encodesInSlices() const override { return true; }
+
 private:
     void encodeRest(QStringView line, qsizetype i, QByteArray& out, qsizetype start, qsizetype& unrepresentable) const {
         char* dst = out.data() + start;
@@ -221,6 +243,10 @@ public:
         if (encoder.hasError())
             ++unrepresentable;
     }
+
+    // A trail byte may look like ASCII, and the count is per line: such lines stay whole.
+    qsizetype decodeCut(const char*, qsizetype) const override { return 0; }
+    bool encodesInSlices() const override { return false; }
 
 private:
     QByteArray m_name;

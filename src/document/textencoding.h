@@ -41,6 +41,13 @@ public:
     virtual QString decode(const char* data, qsizetype size) const = 0;
     // Appends the encoded line; characters the encoding cannot hold become "?" and are counted.
     virtual void encodeAppend(QStringView line, QByteArray& out, qsizetype& unrepresentable) const = 0;
+
+    // Where the bytes of a long line may be cut: the bytes before the cut decode to the same
+    // text whatever bytes follow them. At most `size`; 0 when no cut is safe.
+    virtual qsizetype decodeCut(const char* data, qsizetype size) const = 0;
+    // Whether a line encoded in slices, never between the halves of a surrogate pair, gives the
+    // same bytes and the same count of unrepresentable characters as the line at once.
+    virtual bool encodesInSlices() const = 0;
 };
 
 } // namespace quenfor

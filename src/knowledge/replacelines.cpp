@@ -4,6 +4,9 @@
 #include "document/configdocument.h"
 #include "settings/settingsstore.h"
 
+#include <algorithm>
+#include <cstring>
+
 using namespace Qt::StringLiterals;
 
 namespace quenfor {
@@ -23,11 +26,38 @@ bool lineHoldsFindText(const QString& line, const QString& find) {
     return line.contains(find, Qt::CaseInsensitive);
 }
 
-QString replaceFirstInLine(const QString& line, const QString& find, const QString& replacement) {
+namespace {
+
+void replaceFirstInPlace(QString& line, const QString& find, const QString& replacement) {
+    if (find.isEmpty()) {
+        if (line.isEmpty())
+            return;
+        // Growing at the end and moving the text keeps a huge line in its buffer, where
+        // prepend would allocate a new one beside it.
+        const qsizetype size = line.size();
+        line.resize(size + replacement.size());
+        QChar* text = line.data();
+        std::memmove(text + replacement.size(), text, size_t(size) * sizeof(QChar));
+        std::copy(replacement.cbegin(), replacement.cend(), text);
+        return;
+    }
+    replaceFirstIgnoringCase(line, find, replacement);
+}
+
+// For a line that holds the find text: whether the found text differs from the replacement.
+bool replacementChanges(const QString& line, const QString& find, const QString& replacement) {
     if (find.isEmpty())
-        return line.isEmpty() ? line : replacement + line;
+        return !replacement.isEmpty();
+    // Qt folds case per character, so the match is exactly as long as the search text.
+    const qsizetype at = line.indexOf(find, 0, Qt::CaseInsensitive);
+    return QStringView(line).sliced(at, find.size()) != replacement;
+}
+
+} // namespace
+
+QString replaceFirstInLine(const QString& line, const QString& find, const QString& replacement) {
     QString result = line;
-    replaceFirstIgnoringCase(result, find, replacement);
+    replaceFirstInPlace(result, find, replacement);
     return result;
 }
 
@@ -39,9 +69,9 @@ int replaceInDocument(ConfigDocument& document, const QString& find, const QStri
             continue;
         ++count;
         // A replacement equal to the found text leaves the line as it was: nothing to announce.
-        QString replaced = replaceFirstInLine(line, find, replacement);
-        if (replaced != line)
-            document.setLine(i, replaced);
+        // The line is changed where it is: a copy of a huge line would double it.
+        if (replacementChanges(line, find, replacement))
+            document.editLine(i, [&](QString& text) { replaceFirstInPlace(text, find, replacement); });
     }
     return count;
 }

@@ -64,6 +64,19 @@ TEST_F(CliTest, CleanUpCommands) {
     }
 }
 
+// The repair splits while reading: the file's mark and code page stay, standard input works the same.
+TEST_F(CliTest, RepairKeepsTheEncodingFromFileAndStandardInput) {
+    const QByteArray marked = "\xEF\xBB\xBF\xC3\xA4\nb\r\n\n\xEF\xBB\xBF";
+    const QByteArray repaired = "\xEF\xBB\xBF\xC3\xA4\r\nb\r\n\r\n\r\n\xEF\xBB\xBF\r\n";
+    EXPECT_EQ(run({u"repair"_s, write(u"bom.pro"_s, marked)}).out, repaired);
+    EXPECT_EQ(run({u"repair"_s, u"-"_s}, marked).out, repaired);
+    const QByteArray cp1252 = "\xE4\n\xFC";
+    EXPECT_EQ(run({u"repair"_s, u"-"_s}, cp1252).out, "\xE4\r\n\xFC\r\n");
+    const QString name = write(u"unix.pro"_s, cp1252);
+    EXPECT_EQ(run({u"repair"_s, u"-i"_s, name}).status, 0);
+    EXPECT_EQ(read(name), "\xE4\r\n\xFC\r\n");
+}
+
 TEST_F(CliTest, SortNamesTheDroppedLine) {
     const QByteArray input = "zeta 1\r\nmapkey x y\r\nAlpha 1\r\n! c\r\n9 neun\r\n_unter 3\r\nalpha 1\r\n";
     const CliRun r = run({u"sort"_s, write(u"s.pro"_s, input)}, {}, u"de_DE.UTF-8"_s);

@@ -91,6 +91,29 @@ TEST(ConfigDiff, TsvKeepsItsColumnsWhateverTheValues) {
                    "changed\toption\tweb_browser_homepage\ta^Ib\tc\t1\t1\n"_s);
 }
 
+// The differences point into the lines and joined macros they came from; they must stay
+// readable after the files' lines are gone, also as copies (the compare window keeps them).
+TEST(ConfigDiff, TheDifferencesOutliveTheLinesTheyCameFrom) {
+    std::vector<DiffEntry> diff;
+    {
+        // Strings with buffers of their own, freed at the end of the block.
+        const auto own = [](const char* text) { return QString::fromUtf8(text); };
+        const QStringList a = {own("bell yes"), own("mapkey $F2 #alt;\\"), own("mapkey(continued) ~ Alt;"),
+                               own("search_path C:\\a"), own("trail_dir C:\\weg")};
+        const QStringList b = {own("BELL no"), own("mapkey $F2 #neu;\\"), own("mapkey(continued) ~ Neu;"),
+                               own("search_path C:\\b"), own("mapkey $F3 #dazu;")};
+        diff = diffConfigs(a, b, kRepeatable);
+    }
+    const std::vector<DiffEntry> copies = diff;
+    diff.clear();
+    EXPECT_EQ(report(copies), u"~ BELL: yes → no  (A:1 → B:1)\n"
+                              "~ mapkey $F2: #alt;~ Alt; → #neu;~ Neu;  (A:2 → B:2)\n"
+                              "+ mapkey $F3: #dazu;  (B:5)\n"
+                              "- search_path: C:\\a  (A:4)\n"
+                              "+ search_path: C:\\b  (B:4)\n"
+                              "- trail_dir: C:\\weg  (A:5)\n"_s);
+}
+
 // Against a plain oracle: apply random edits to a file and check that exactly the edited single
 // options are reported, whatever else is shuffled around them.
 TEST(ConfigDiff, RandomEditsAreFoundExactly) {

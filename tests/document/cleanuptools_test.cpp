@@ -2,9 +2,11 @@
 
 #include "document/cleanuptools.h"
 #include "document/collatedsort.h"
+#include "document/documentfile.h"
 #include "document/linecollator.h"
 
 #include <QCollator>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -243,6 +245,34 @@ TEST(RepairTest, AgreesWithTheLiteralVersion) {
         const qsizetype count = random.pick(int(text.count(u'\r')) + 2);
         SCOPED_TRACE(testing::PrintToString(text) + " lines: " + std::to_string(count));
         ASSERT_EQ(repairFragmentedText(text, count), literalRepair(text, count));
+    }
+}
+
+// The command line repairs while reading, with every LF read as a line end, instead of holding
+// the file as bytes and as text; that must give what the repair of the whole text gives.
+TEST(RepairTest, ReadingLineFeedsAsLineEndsIsTheRepairOfTheFile) {
+    const QByteArray alphabet[] = {"a", " ", "\r", "\n", "\r\n", "\xC3\xA4", "\xE4", "\xEF\xBB\xBF", "\xE2\x82"};
+    std::mt19937 rng(7);
+    QTemporaryDir dir;
+    const QString path = dir.filePath(u"unix.pro"_s);
+    for (int i = 0; i < 800; ++i) {
+        QByteArray bytes;
+        for (int n = std::uniform_int_distribution<int>(0, 12)(rng); n > 0; --n)
+            bytes += alphabet[std::uniform_int_distribution<int>(0, std::size(alphabet) - 1)(rng)];
+        SCOPED_TRACE(bytes.toHex(' ').toStdString());
+        const QStringList repaired =
+            repairFragmentedText(decodeText(bytes, {}), readDocumentBytes(bytes, {}).lines.size());
+        const ReadResult read = readDocumentBytes(bytes, {}, LineFeeds::EndLine);
+        ASSERT_TRUE(read.ok);
+        ASSERT_EQ(read.lines, repaired);
+        EXPECT_FALSE(read.lineFeedsOnly);
+        if (i % 20 == 0) {
+            ASSERT_TRUE(test::writeBytes(path, bytes));
+            const ReadResult fromFile = readDocumentFile(path, {}, LineFeeds::EndLine);
+            ASSERT_TRUE(fromFile.ok);
+            ASSERT_EQ(fromFile.lines, repaired);
+            EXPECT_EQ(fromFile.encoding, read.encoding);
+        }
     }
 }
 

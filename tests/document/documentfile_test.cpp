@@ -152,7 +152,9 @@ TEST_F(DocumentFileTest, UsersFilesKeepEveryByte) {
 TEST_F(DocumentFileTest, ByteOrderMarkInsideTheFileIsKept) {
     const QByteArray joined = "\xEF\xBB\xBF! erste Datei\r\n\xEF\xBB\xBF! zweite Datei \xC3\xA4\r\n";
     const QByteArray broken = "! \xEA\xB5\xAC\xEC\xEF\xBB\xBF\xED\x8C\x8C\r\n\xEF\xBB\xBFx \xC4\r\n";
-    for (const QByteArray& original : {joined, broken}) {
+    // A file joined to itself: marks in a row, the first one the file's own.
+    const QByteArray twice = "\xEF\xBB\xBF\xEF\xBB\xBF\xEF\xBB\xBFx\r\n\xEF\xBB\xBF\xEF\xBB\xBF\xC4\r\n";
+    for (const QByteArray& original : {joined, broken, twice}) {
         for (const QString& codepage : {u"windows-1252"_s, u"UTF-8"_s}) {
             SCOPED_TRACE(codepage.toStdString());
             const ReadResult read = readDocumentBytes(original, {codepage, false});
@@ -165,6 +167,7 @@ TEST_F(DocumentFileTest, ByteOrderMarkInsideTheFileIsKept) {
         }
     }
     EXPECT_TRUE(readDocumentBytes(joined, {}).lines[1].startsWith(QChar(0xFEFF)));
+    EXPECT_EQ(readDocumentBytes(twice, {}).lines[0], QString(2, QChar(0xFEFF)) + u"x"_s);
 }
 
 TEST_F(DocumentFileTest, CodePageIsChosenOrForced) {

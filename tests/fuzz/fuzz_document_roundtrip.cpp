@@ -1,9 +1,11 @@
 // Reading any bytes into a document and saving it must be stable: what was saved reads back to
 // the same lines in the same encoding, saving again gives the same bytes, and a file that is
-// already in the saved form (CR LF after every line) comes back byte for byte.
+// already in the saved form (CR LF after every line) comes back byte for byte. A long line is
+// decoded and encoded in pieces: any cut must give what the line at once gives.
 #include "fuzzinput.h"
 
 #include "document/documentfile.h"
+#include "document/linepieces.h"
 
 #include <QBuffer>
 
@@ -34,6 +36,35 @@ bool inSavedForm(QByteArrayView bytes) {
     return true;
 }
 
+// The bytes as one line handed over in pieces of `width` bytes, against decoding them at once;
+// each line encoded in slices of `width` characters, against encoding it at once.
+void checkPieces(QByteArrayView bytes, const QStringList& lines, const TextEncoding& encoding, qsizetype width) {
+    const auto codec = LineCodec::create(encoding, nullptr);
+    if (!codec)
+        fuzz::fail("the encoding that was read with cannot be created again");
+    LinePieceDecoder decoder(*codec, width / 2);
+    qsizetype at = 0;
+    for (; bytes.size() - at > width; at += width)
+        decoder.append(bytes.data() + at, width);
+    if (decoder.take(bytes.data() + at, bytes.size() - at) != codec->decode(bytes.data(), bytes.size()))
+        fuzz::fail("bytes decoded in pieces differ from the bytes decoded at once");
+    for (const QString& line : lines) {
+        QByteArray whole;
+        qsizetype wholeCount = 0;
+        codec->encodeAppend(line, whole, wholeCount);
+        QByteArray sliced;
+        QByteArray out;
+        qsizetype count = 0;
+        encodeInSlices(*codec, line, out, count, width, [&](QByteArray& piece) {
+            sliced += piece;
+            piece.clear();
+            return true;
+        });
+        if (sliced + out != whole || count != wholeCount)
+            fuzz::fail("a line encoded in slices differs from the line encoded at once");
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -56,5 +87,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         fuzz::fail("saving twice gives different bytes");
     if (inSavedForm(original) && saved != original)
         fuzz::fail("a CR LF file does not come back byte for byte");
+    checkPieces(original, first.lines, first.encoding, 1 + original.size() % 7);
     return 0;
 }

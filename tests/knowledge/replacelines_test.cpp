@@ -81,8 +81,11 @@ TEST_F(ReplaceInDocument, CountsTheLinesThatHeldTheText) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.label);
         load(c.lines);
+        // Lines are changed in place; a copy held elsewhere (the window's undo) must keep the old text.
+        const QStringList before = doc.lines();
         EXPECT_EQ(replaceInDocument(doc, c.find, c.replacement), c.count);
         EXPECT_EQ(doc.lines(), c.expected);
+        EXPECT_EQ(before, c.lines);
     }
 }
 

@@ -17,7 +17,7 @@ QString lineText(int line) {
     return line > 0 ? QString::number(line) : QString();
 }
 
-QString shownValue(const QString& value) {
+QString shownValue(QStringView value) {
     return shownText(value, std::numeric_limits<qsizetype>::max());
 }
 

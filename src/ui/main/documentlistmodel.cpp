@@ -1,5 +1,6 @@
 #include "ui/main/documentlistmodel.h"
 
+#include "common/textslice.h"
 #include "document/configdocument.h"
 
 #include <QPainter>
@@ -53,8 +54,14 @@ int DocumentListModel::rowCount(const QModelIndex& parent) const {
 QVariant DocumentListModel::data(const QModelIndex& index, int role) const {
     if (!m_document || !index.isValid() || index.row() >= m_document->count())
         return {};
-    if (role == Qt::DisplayRole || role == Qt::EditRole)
+    if (role == Qt::EditRole)
         return m_document->line(index.row());
+    if (role == Qt::DisplayRole) {
+        const QString& line = m_document->line(index.row());
+        if (line.size() <= kListShownLength)
+            return line;
+        return line.first(sliceEnd(line, kListShownLength));
+    }
     if (!m_showMarks || (role != Qt::DecorationRole && role != Qt::ToolTipRole))
         return {};
     const auto mark = m_marks.constFind(index.row());

@@ -11,6 +11,11 @@ namespace quenfor {
 
 class ConfigDocument;
 
+// Characters of a line the list shows. Painting lays out the whole shown text, some bytes per
+// character on every paint: a mapkey line of hundreds of megabytes would take gigabytes. Nobody
+// reads that far to the right, so the list shows the beginning; editing gets the whole line.
+inline constexpr qsizetype kListShownLength = 10000;
+
 // Shows the document's lines in a list view without copying them: rows are read from the
 // document on demand and the model follows the document's change signals.
 class DocumentListModel : public QAbstractListModel {
