@@ -1,4 +1,5 @@
 #include "cli/clirunner.h"
+#include "cli/hugepageheap.h"
 #include "common/qttranslations.h"
 
 #include <QCoreApplication>
@@ -29,6 +30,8 @@ void holdClosedStandardStreams() {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    // First, before anything is set up that a restart would lose.
+    quenfor::cli::restartWithHugePageHeapForLargeInputs(argv);
 #ifdef SIGXFSZ
     // A file size limit must fail the write, which keeps the old file, not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);

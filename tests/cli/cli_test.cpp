@@ -77,6 +77,21 @@ TEST_F(CliTest, RepairKeepsTheEncodingFromFileAndStandardInput) {
     EXPECT_EQ(read(name), "\xE4\r\n\xFC\r\n");
 }
 
+// A run on a large file starts itself once more where the machine offers huge pages for the
+// heap: the arguments, standard input and the output file must come through that unchanged.
+TEST_F(CliTest, LargeFilesComeThroughTheRestartUnchanged) {
+    const QByteArray value(200, 'W');
+    QByteArray big;
+    for (int i = 0; big.size() < (17 << 20); ++i)
+        big += "Option_" + QByteArray::number(i) + ' ' + value + "\r\n";
+    const QString file = write(u"gross.pro"_s, big);
+    const CliRun lowered = run({u"lower"_s, file, u"-o"_s, path(u"klein.pro"_s)});
+    EXPECT_EQ(lowered.status, 0) << lowered.err.toStdString();
+    EXPECT_EQ(read(path(u"klein.pro"_s)), big.toLower());
+    const CliRun same = run({u"diff"_s, file, u"-"_s}, big);
+    EXPECT_EQ(same.status, 0) << same.err.toStdString();
+}
+
 TEST_F(CliTest, SortNamesTheDroppedLine) {
     const QByteArray input = "zeta 1\r\nmapkey x y\r\nAlpha 1\r\n! c\r\n9 neun\r\n_unter 3\r\nalpha 1\r\n";
     const CliRun r = run({u"sort"_s, write(u"s.pro"_s, input)}, {}, u"de_DE.UTF-8"_s);
