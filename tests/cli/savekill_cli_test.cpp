@@ -58,7 +58,10 @@ TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
     int killed = 0;
     int sawOld = 0;
     int sawNew = 0;
-    for (int attempt = 0; killed < 25 && attempt < 400; ++attempt) {
+    // Under the load of a parallel test run a save can take far longer than when it was timed;
+    // then every kill lands before the rename. The window widens until some saves get through.
+    double windowMs = double(fullRunMs) * 1.2;
+    for (int attempt = 0; (killed < 25 || sawOld == 0 || sawNew == 0) && attempt < 400; ++attempt) {
         write(u"config.pro"_s, oldBytes);
         QProcess process;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -66,7 +69,7 @@ TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
         process.setProcessEnvironment(env);
         process.start(QStringLiteral(QUENFOR_CLI_PATH), {u"lower"_s, u"-i"_s, target});
         ASSERT_TRUE(process.waitForStarted());
-        QThread::usleep(random.bounded(quint32(fullRunMs * 1200)));
+        QThread::usleep(random.bounded(quint32(windowMs * 1000)));
         if (process.state() == QProcess::Running) {
             ::kill(pid_t(process.processId()), SIGKILL);
             ++killed;
@@ -76,11 +79,13 @@ TEST_F(SaveKillTest, KilledInPlaceSaveLeavesOldOrNewFileNeverAMix) {
         const QByteArray hash = hashOf(read(target));
         ASSERT_TRUE(hash == oldHash || hash == newHash) << "attempt " << attempt << ": the file is neither old nor new";
         (hash == oldHash ? sawOld : sawNew) += 1;
+        if (sawNew == 0)
+            windowMs = qMin(windowMs * 1.25, 60000.0);
         // A killed save may leave its temporary file behind; it is never the file itself.
         for (const QString& name : QDir(dir.path()).entryList({u"config.pro?*"_s}, QDir::Files))
             QFile::remove(path(name));
     }
-    EXPECT_EQ(killed, 25);
+    EXPECT_GE(killed, 25);
     // Kills both before and after the rename: otherwise the timing did not cover the save.
     EXPECT_GT(sawOld, 0);
     EXPECT_GT(sawNew, 0);
